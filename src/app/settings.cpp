@@ -1,0 +1,110 @@
+#include "app/settings.h"
+
+#include <array>
+#include <optional>
+#include <string_view>
+
+#include "app/session.h"
+#include "platform/encoding.h"
+#include "platform/paths.h"
+#include "platform/profile.h"
+#include "platform/regional.h"
+#include "platform/spelling.h"
+#include "text/characters.h"
+#include "text/numbers.h"
+
+namespace verandis {
+namespace {
+
+constexpr const char* kFile = "Verandis.INI";
+constexpr const char* kSection = "Verandis";
+constexpr std::size_t kLongestValue = 63;
+constexpr int kDefaultLanguage = 2;
+
+struct SettingsKey {
+    const char* name;
+    std::string Settings::*value;
+    const char* fallback;
+};
+
+/// In the order of writing.
+constexpr std::array<SettingsKey, 5> kKeys = {{
+    {"SystemPath", &Settings::SystemPath, ""},
+    {"LocalPath", &Settings::LocalPath, ""},
+    {"AccuracyLevelTL", &Settings::AccuracyLevelTL, "2"},
+    {"Language", &Settings::Language, "2"},
+    {"Regional", &Settings::Regional, ""},
+}};
+
+struct Refusal {
+    int text;
+    const char* english;
+};
+constexpr Refusal kNoFolder = {450, "No folder is named"};
+constexpr Refusal kHoldsBlank = {446, "The folder name holds a blank"};
+constexpr Refusal kNotAscii = {
+    447, "The folder name may hold only the letters a to z, digits and common signs"};
+constexpr Refusal kTooLong = {448, "The folder name is longer than 48 characters"};
+
+std::optional<Refusal> Refused(const std::string& path) {
+    if (TrimBlanks(path).empty()) return kNoFolder;
+    if (path.find(' ') != std::string::npos) return kHoldsBlank;
+    if (!IsAscii(path)) return kNotAscii;
+    if (Length(path) > kLongestSystemPath) return kTooLong;
+    return std::nullopt;
+}
+
+int LanguageOf(const std::string& value) {
+    if (TrimBlanks(value).empty()) return kDefaultLanguage;
+    return WholeNumber(ToNumber(value));
+}
+
+}  // namespace
+
+Settings StoredSettings() {
+    Settings settings;
+    for (const SettingsKey& key : kKeys) {
+        const auto value = ReadProfile(kFile, kSection, key.name);
+        settings.*key.value = value && !value->empty() ? Left(*value, kLongestValue) : key.fallback;
+    }
+    return settings;
+}
+
+void UseSystemPath(const std::string& path) {
+    session.SystemFolder = path;
+    session.SimulatorFolder = JoinPath(path, "MWTHARM");
+    session.StageFolder = JoinPath(path, "WTHARM");
+    session.ProjectRoot = JoinPath(path, "PROJECT");
+    SetRootSpelling(path);
+}
+
+bool ReadSystemSettings() {
+    const Settings settings = StoredSettings();
+    session.AccuracyLevelTL = settings.AccuracyLevelTL;
+    session.Language = LanguageOf(settings.Language);
+    session.Decimals = MachineWritesDecimalComma() ? DecimalMode::Comma : DecimalMode::Point;
+    if (settings.SystemPath.empty()) return false;
+    UseSystemPath(settings.SystemPath);
+    session.ProjectRootAtStart = session.ProjectRoot;
+    return true;
+}
+
+bool WriteSystemSettings(const Settings& settings) {
+    for (const SettingsKey& key : kKeys) {
+        if (!WriteProfile(kFile, kSection, key.name, settings.*key.value)) return false;
+    }
+    UseSystemPath(settings.SystemPath);
+    return true;
+}
+
+int RefusalOfSystemPath(const std::string& path) {
+    const auto refusal = Refused(path);
+    return refusal ? refusal->text : 0;
+}
+
+std::string SystemPathComplaint(const std::string& path) {
+    const auto refusal = Refused(path);
+    return refusal ? refusal->english : "";
+}
+
+}  // namespace verandis

@@ -1,0 +1,174 @@
+#include "calc/climate_file.h"
+
+#include <cmath>
+#include <limits>
+
+#include "app/session.h"
+#include "calc/division.h"
+#include "calc/properties.h"
+#include "case/site_file.h"
+#include "platform/errors.h"
+#include "platform/files.h"
+#include "platform/paths.h"
+#include "text/characters.h"
+#include "text/numbers.h"
+#include "text/separators.h"
+
+namespace verandis {
+
+ClimateTables climateTables;
+
+namespace {
+
+constexpr int kHeaderLines = 3;
+constexpr std::string_view kLastLine = "End";
+
+/// Rounds down; far outside any table when the value does not fit.
+int WholePart(double value) {
+    const double floor = std::floor(value);
+    if (!(std::abs(floor) < 1e9)) return std::numeric_limits<int>::max();
+    return static_cast<int>(floor);
+}
+
+bool Within(int index, int count) {
+    return index >= 0 && index < count;
+}
+
+bool InSolarTable(int kind, int direction, int tilt) {
+    return Within(kind, kGlassKinds) && Within(direction, kDirections) && Within(tilt, kTilts);
+}
+
+/// Lines of a climate file with their numbers, for error sentences.
+class ClimateLines {
+public:
+    ClimateLines(std::string_view text, const std::string& file) : rest_(text), file_(file) {}
+
+    bool AtEnd() const { return rest_.empty(); }
+
+    std::string_view Next() {
+        ++number_;
+        return TakeLine(rest_);
+    }
+
+    [[noreturn]] void Refuse(const std::string& what) const {
+        throw RunError("Climate file " + file_ + ", line " + std::to_string(number_) + ": " + what);
+    }
+
+private:
+    std::string_view rest_;
+    const std::string& file_;
+    int number_ = 0;
+};
+
+/// The number in front of the next TAB; a point is the decimal sign, whatever the session's is.
+float TakeField(std::string_view& line) {
+    return static_cast<float>(PlainNumber(TakeUpTo(line, '\t')));
+}
+
+void ReadMonth(ClimateLines& lines) {
+    std::string_view line = lines.Next();
+    const int month = WholeNumber(PlainNumber(TakeUpTo(line, '\t')));
+    if (!Within(month, kMonthPlaces)) {
+        lines.Refuse("there is no month" + NumberText(double(month)));
+    }
+    auto& places = climateTables.ClimateMonths[static_cast<std::size_t>(month)];
+    for (std::size_t place = 1; place <= 3; ++place) places[place] = TakeField(line);
+}
+
+/// The place of a block in the radiation table.
+struct BlockPlace {
+    std::size_t kind;
+    std::size_t direction;
+    std::size_t tilt;
+};
+
+BlockPlace PlaceOf(std::string_view header, const ClimateLines& lines) {
+    const int kind = WholeNumber(PlainNumber(TakeUpTo(header, '\t')));
+    const int tilt = TiltIndex(PlainNumber(TakeUpTo(header, '\t')));
+    const int direction = DirectionIndex(WholeNumber(PlainNumber(header)));
+    if (!InSolarTable(kind, direction, tilt)) {
+        lines.Refuse("glass kind, tilt or direction lies outside the radiation table");
+    }
+    return {static_cast<std::size_t>(kind), static_cast<std::size_t>(direction),
+            static_cast<std::size_t>(tilt)};
+}
+
+/// One block: false at the end of the blocks.
+bool ReadBlock(ClimateLines& lines) {
+    if (lines.AtEnd()) return false;
+    const std::string_view header = lines.Next();
+    if (header == kLastLine || lines.AtEnd()) return false;
+    const BlockPlace place = PlaceOf(header, lines);
+    std::string_view values = lines.Next();
+    auto& months = climateTables.SolarTable[place.kind];
+    for (std::size_t month = 1; month < kMonthPlaces; ++month) {
+        months[month][place.direction][place.tilt] = TakeField(values);
+    }
+    return true;
+}
+
+bool NamesFolder(const std::string& path) {
+    return !FolderOf(path).empty() && FolderExists(std::string(FolderOf(path)));
+}
+
+std::string FolderOfClimates() {
+    const auto entry = SiteClimate(session.CaseFolder);
+    if (entry && NamesFolder(*entry)) return std::string(FolderOf(*entry));
+    const auto folder = ClimateFolder();
+    if (!folder) {
+        StopRun("the path of the project, " + session.ProjectFolder +
+                ", does not hold the word Project, so that its climate folder is not known");
+    }
+    return *folder;
+}
+
+}  // namespace
+
+int TiltIndex(double tilt) {
+    return WholePart(tilt / 10);
+}
+
+int DirectionIndex(double direction) {
+    const int tenth = WholePart(direction / 10);
+    return tenth == std::numeric_limits<int>::max() ? tenth : tenth + 1;
+}
+
+float SolarRadiation(int kind, int month, int directionIndex, int tiltIndex,
+                     std::string_view element) {
+    if (!InSolarTable(kind, directionIndex, tiltIndex) || !Within(month, kMonthPlaces)) {
+        StopRun("glass kind" + NumberText(double(kind)) + ", direction index" +
+                    NumberText(double(directionIndex)) + " or tilt index" +
+                    NumberText(double(tiltIndex)) + " lies outside the radiation table",
+                element);
+    }
+    return climateTables.SolarTable[static_cast<std::size_t>(kind)][static_cast<std::size_t>(month)]
+                                   [static_cast<std::size_t>(directionIndex)]
+                                   [static_cast<std::size_t>(tiltIndex)];
+}
+
+void ReadClimateBytes(std::string_view bytes, const std::string& file) {
+    ClimateLines lines(bytes, file);
+    for (int line = 0; line < kHeaderLines; ++line) {
+        if (lines.AtEnd()) return;
+        lines.Next();
+    }
+    for (int line = 0; line < 12; ++line) {
+        if (lines.AtEnd()) return;
+        ReadMonth(lines);
+    }
+    while (ReadBlock(lines)) {
+    }
+}
+
+std::string ClimateFilePath() {
+    const std::string climate = PropertyText("CLIMATE", "FILE");
+    return JoinPath(FolderOfClimates(), std::string(TrimBlanks(climate)) + "S.dat");
+}
+
+void ReadClimateFile() {
+    static std::string bytes;
+    const std::string path = ClimateFilePath();
+    if (ReadBytesInto(path, bytes)) ReadClimateBytes(bytes, path);
+}
+
+}  // namespace verandis

@@ -1,0 +1,7 @@
+#include "calc/results.h"
+
+namespace verandis {
+
+RunResults runResults;
+
+}  // namespace verandis

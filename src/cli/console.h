@@ -1,0 +1,42 @@
+#pragma once
+
+#include <ostream>
+
+#include "platform/progress.h"
+#include "platform/prompts.h"
+
+namespace verandis {
+
+/// Messages as lines "[title] text"; every question is answered as the command line says.
+class ConsolePrompts : public Prompts {
+public:
+    ConsolePrompts(std::ostream& err, bool yes) : err_(err), yes_(yes) {}
+
+    void Message(const std::string& text, const std::string& title, Icon icon) override;
+    bool AskYesNo(const std::string& text, const std::string& title) override;
+    Answer AskYesNoCancel(const std::string& text, const std::string& title) override;
+    std::optional<std::string> AskText(const std::string& prompt, const std::string& title,
+                                       const std::string& initial) override;
+
+private:
+    std::ostream& err_;
+    bool yes_;
+};
+
+/// One line that is written over as the run goes on.
+class ConsoleProgress : public Progress {
+public:
+    explicit ConsoleProgress(std::ostream& err) : err_(err) {}
+    ~ConsoleProgress() override;
+    ConsoleProgress(const ConsoleProgress&) = delete;
+    ConsoleProgress& operator=(const ConsoleProgress&) = delete;
+
+protected:
+    void Show() override;
+
+private:
+    std::ostream& err_;
+    int shownPercent_ = -1;
+};
+
+}  // namespace verandis

@@ -1,0 +1,180 @@
+#include "cli/month_table.h"
+
+#include <algorithm>
+
+#include "app/program_text.h"
+#include "calc/marked_slots.h"
+#include "calc/properties.h"
+#include "projects/slot_activation.h"
+#include "text/characters.h"
+#include "text/numbers.h"
+
+namespace verandis {
+namespace {
+
+/// Catalogue texts of the table.
+enum : int {
+    kMonthWord = 198,
+    kFirstMonthName = 401,
+    kOutdoorWord = 413,
+    kFreeWord = 414,
+    kHeatWord = 415,
+    kMeanWord = 424,
+    kLargestWord = 425
+};
+
+struct Column {
+    const char* head;
+    int word;
+    const char* unit;
+    const char* key;  // in data files
+    float MonthResult::*value;
+    int decimals;
+    std::size_t width;
+};
+constexpr Column kColumns[] = {
+    {"To", kOutdoorWord, "°C", "tempOut", &MonthResult::TempOut, 1, 8},
+    {"Tg", kFreeWord, "°C", "tempGFree", &MonthResult::Tmin, 1, 7},
+    {"Ph", kHeatWord, "W", "heatDemandG", &MonthResult::Ph, 0, 8},
+};
+constexpr std::size_t kFirstWidth = 10;
+constexpr std::size_t kCaseWidth = 23;
+
+std::string Right(const std::string& text, std::size_t width) {
+    const std::size_t length = Length(text);
+    return (length < width ? std::string(width - length, ' ') : "") + text;
+}
+
+std::string LeftAligned(const std::string& text, std::size_t width) {
+    const std::size_t length = Length(text);
+    return text + (length < width ? std::string(width - length, ' ') : "");
+}
+
+std::string MonthName(std::size_t month) {
+    return Text(kFirstMonthName + static_cast<int>(month) - 1);
+}
+
+double MeanOf(const RunResults::Year& year, float MonthResult::*value) {
+    double sum = 0;
+    for (std::size_t month = 1; month <= kMonths; ++month) sum += double(year[month].*value);
+    return sum / kMonths;
+}
+
+double LargestOf(const RunResults::Year& year, float MonthResult::*value) {
+    float largest = year[1].*value;
+    for (std::size_t month = 1; month <= kMonths; ++month) {
+        largest = std::max(largest, year[month].*value);
+    }
+    return double(largest);
+}
+
+template <class ValueOf>
+std::string Row(const std::string& head, const std::vector<CalculatedCase>& cases,
+                const ValueOf& valueOf) {
+    std::string line = LeftAligned(head, kFirstWidth);
+    for (const CalculatedCase& each : cases) {
+        for (const Column& column : kColumns) {
+            line += Right(FixedText(valueOf(each.months, column.value), column.decimals),
+                          column.width);
+        }
+    }
+    return line + "\n";
+}
+
+std::string Heads(const std::vector<CalculatedCase>& cases) {
+    std::string names(kFirstWidth, ' ');
+    std::string columns = LeftAligned(Text(kMonthWord), kFirstWidth);
+    for (const CalculatedCase& each : cases) {
+        names += Right(SlotLabel(each.slot) + " " + each.climate, kCaseWidth);
+        for (const Column& column : kColumns) columns += Right(column.head, column.width);
+    }
+    return names + "\n" + columns + "\n";
+}
+
+std::string JsonText(const std::string& text) {
+    std::string quoted = "\"";
+    for (const char c : text) {
+        if (c == '"' || c == '\\') quoted += '\\';
+        if (static_cast<unsigned char>(c) >= 0x20) quoted += c;
+    }
+    return quoted + "\"";
+}
+
+std::string JsonMonth(std::size_t month, const MonthResult& result) {
+    std::string text = "{\"month\": " + std::to_string(month);
+    for (const Column& column : kColumns) {
+        text += std::string(", \"") + column.key + "\": " + TrimmedNumberText(result.*column.value);
+    }
+    return text + "}";
+}
+
+std::string JsonCase(const CalculatedCase& each) {
+    std::string text = "    {\"slot\": " + JsonText(SlotLabel(each.slot)) +
+                       ", \"climate\": " + JsonText(each.climate) +
+                       ", \"setPointG\": " + TrimmedNumberText(each.result.SetPointG) +
+                       ", \"tempB\": " + TrimmedNumberText(each.result.TempB) + ", \"months\": [\n";
+    for (std::size_t month = 1; month <= kMonths; ++month) {
+        text += "        " + JsonMonth(month, each.months[month]);
+        text += month < kMonths ? ",\n" : "\n";
+    }
+    return text + "    ]}";
+}
+
+}  // namespace
+
+std::vector<CalculatedCase> CalculatedCases() {
+    std::vector<CalculatedCase> cases;
+    std::size_t position = 0;
+    for (const Slot& slot : MarkedSlots()) {
+        ++position;
+        ActivateForRun(slot);
+        cases.push_back({slot, std::string(TrimBlanks(PropertyText("CLIMATE", "FILE"))),
+                         runResults.CaseResults[position], runResults.MonthResults[position]});
+    }
+    ReactivateEditedSlot();
+    return cases;
+}
+
+std::string MonthTable(const std::vector<CalculatedCase>& cases) {
+    std::string table = Heads(cases);
+    for (std::size_t month = 1; month <= kMonths; ++month) {
+        table += Row(MonthName(month), cases,
+                     [&](const RunResults::Year& year, float MonthResult::*value) {
+                         return double(year[month].*value);
+                     });
+    }
+    table += Row(Text(kMeanWord), cases, MeanOf);
+    table += Row(Text(kLargestWord), cases, LargestOf);
+    table += "\n";
+    for (const Column& column : kColumns) {
+        table += std::string(column.head) + "  " + Text(column.word) + ", " + column.unit + "\n";
+    }
+    return table;
+}
+
+std::string MonthCsv(const std::vector<CalculatedCase>& cases) {
+    std::string text = "slot,climate,month";
+    for (const Column& column : kColumns) text += std::string(",") + column.key;
+    text += "\n";
+    for (const CalculatedCase& each : cases) {
+        for (std::size_t month = 1; month <= kMonths; ++month) {
+            text += SlotLabel(each.slot) + "," + each.climate + "," + std::to_string(month);
+            for (const Column& column : kColumns) {
+                text += "," + TrimmedNumberText(each.months[month].*column.value);
+            }
+            text += "\n";
+        }
+    }
+    return text;
+}
+
+std::string MonthJson(const std::vector<CalculatedCase>& cases) {
+    std::string text = "{\"cases\": [\n";
+    for (std::size_t at = 0; at < cases.size(); ++at) {
+        text += JsonCase(cases[at]);
+        text += at + 1 < cases.size() ? ",\n" : "\n";
+    }
+    return text + "]}\n";
+}
+
+}  // namespace verandis

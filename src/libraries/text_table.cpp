@@ -1,0 +1,76 @@
+#include "libraries/text_table.h"
+
+#include <algorithm>
+
+#include "platform/encoding.h"
+#include "platform/errors.h"
+#include "text/characters.h"
+#include "text/separators.h"
+
+namespace verandis {
+
+std::size_t TextTable::Index(int row, int column) const {
+    if (row < 1 || row > rows_ || column < 1 || column > columns_) {
+        throw RunError("A library table has no row " + std::to_string(row) + ", column " +
+                       std::to_string(column) + ": it holds " + std::to_string(rows_) + " rows");
+    }
+    return static_cast<std::size_t>((row - 1) * columns_ + column - 1);
+}
+
+const std::string& TextTable::Cell(int row, int column) const {
+    return cells_[Index(row, column)];
+}
+
+void TextTable::SetCell(int row, int column, std::string_view text) {
+    cells_[Index(row, column)].assign(text);
+}
+
+int TextTable::AddRow() {
+    ++rows_;
+    const auto needed = static_cast<std::size_t>(rows_ * columns_);
+    if (cells_.size() < needed) cells_.resize(needed);
+    for (int column = 1; column <= columns_; ++column) cells_[Index(rows_, column)].clear();
+    return rows_;
+}
+
+void TextTable::RemoveRow(int row) {
+    const auto first = cells_.begin() + static_cast<std::ptrdiff_t>(Index(row, 1));
+    std::rotate(first, first + columns_,
+                cells_.begin() + static_cast<std::ptrdiff_t>(rows_ * columns_));
+    --rows_;
+}
+
+int TextTable::FindRow(int column, std::string_view text) const {
+    for (int row = 1; row <= rows_; ++row) {
+        if (Cell(row, column) == text) return row;
+    }
+    return 0;
+}
+
+std::vector<std::string> TextTable::Column(int column) const {
+    std::vector<std::string> texts;
+    for (int row = 1; row <= rows_; ++row) texts.push_back(Cell(row, column));
+    return texts;
+}
+
+void ReadLibraryRecords(std::string_view bytes, TextTable& table) {
+    std::string converted;
+    if (!IsAscii(bytes)) {
+        converted = FromWindows1252(bytes);
+        bytes = converted;
+    }
+    TakeLine(bytes);
+    TakeLine(bytes);
+    table.Clear();
+    while (!bytes.empty()) {
+        std::string_view record = TrimBlanks(TakeLine(bytes));
+        record = RightOfSeparator(record, "\t");  // the ID is not kept
+        const int row = table.AddRow();
+        for (int column = 1; column < table.columns(); ++column) {
+            table.SetCell(row, column, TakeUpTo(record, '\t'));
+        }
+        table.SetCell(row, table.columns(), record);
+    }
+}
+
+}  // namespace verandis

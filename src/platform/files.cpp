@@ -1,0 +1,259 @@
+#include "platform/files.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <filesystem>
+#include <system_error>
+
+#include "platform/encoding.h"
+#include "platform/paths.h"
+#include "platform/spelling.h"
+#include "text/characters.h"
+#include "text/separators.h"
+
+namespace verandis {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Opens for reading; a remembered spelling that no longer opens is searched anew once.
+int OpenForReading(const std::string& path) {
+    const int file = ::open(RememberedSpelling(path).c_str(), O_RDONLY | O_CLOEXEC);
+    if (file >= 0 || errno != ENOENT) return file;
+    ForgetSpelling(path);
+    const std::string found = FindSpelling(path);
+    return ::open(found.c_str(), O_RDONLY | O_CLOEXEC);
+}
+
+/// Reads to the end. A read of a regular file that gives less than was asked for has reached its
+/// end, which saves the extra call that would tell the same.
+bool ReadAll(int file, std::string& bytes) {
+    constexpr std::size_t kFirst = std::size_t(16) * 1024;
+    if (bytes.capacity() < kFirst) bytes.reserve(kFirst);
+    bytes.resize(bytes.capacity());
+    std::size_t used = 0;
+    while (true) {
+        const std::size_t room = bytes.size() - used;
+        const ssize_t count = ::read(file, bytes.data() + used, room);
+        if (count < 0 && errno == EINTR) continue;
+        if (count < 0) return false;
+        used += static_cast<std::size_t>(count);
+        if (static_cast<std::size_t>(count) < room) break;
+        bytes.resize(bytes.size() * 2);
+    }
+    bytes.resize(used);
+    return true;
+}
+
+bool WriteAll(int file, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t count = ::write(file, bytes.data(), bytes.size());
+        if (count < 0 && errno == EINTR) continue;
+        if (count <= 0) return false;
+        bytes.remove_prefix(static_cast<std::size_t>(count));
+    }
+    return true;
+}
+
+bool WriteWith(const std::string& path, std::string_view bytes, int flags) {
+    ForgetSpelling(path);
+    const std::string target = FindSpelling(path);
+    const int file = ::open(target.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC | flags, 0666);
+    if (file < 0) return false;
+    const bool written = WriteAll(file, bytes);
+    return ::close(file) == 0 && written;
+}
+
+std::vector<std::string> SplitLines(std::string_view text) {
+    std::vector<std::string> lines;
+    while (!text.empty()) lines.emplace_back(TakeLine(text));
+    return lines;
+}
+
+std::string JoinLines(const std::vector<std::string>& lines) {
+    std::size_t size = 0;
+    for (const std::string& line : lines) size += line.size() + 2;
+    std::string text;
+    text.reserve(size);
+    for (const std::string& line : lines) text.append(line).append("\r\n");
+    return text;
+}
+
+/// "*" stands for any run of characters; both texts are in lower case.
+bool Matches(std::string_view name, std::string_view pattern) {
+    const std::size_t star = pattern.find('*');
+    if (star == std::string_view::npos) return name == pattern;
+    if (!name.starts_with(pattern.substr(0, star))) return false;
+    name.remove_prefix(star);
+    pattern.remove_prefix(star + 1);
+    for (std::size_t skip = 0; skip <= name.size(); ++skip) {
+        if (Matches(name.substr(skip), pattern)) return true;
+    }
+    return false;
+}
+
+mode_t ModeOf(const std::string& realPath, bool followLinks) {
+    struct stat info {};
+    const int result = followLinks ? ::stat(realPath.c_str(), &info) : ::lstat(realPath.c_str(), &info);
+    return result == 0 ? info.st_mode : mode_t(0);
+}
+
+}  // namespace
+
+bool ReadBytesInto(const std::string& path, std::string& bytes) {
+    const int file = OpenForReading(path);
+    if (file < 0) {
+        bytes.clear();
+        return false;
+    }
+    const bool read = ReadAll(file, bytes);
+    ::close(file);
+    if (!read) bytes.clear();
+    return read;
+}
+
+std::optional<std::string> ReadBytes(const std::string& path) {
+    std::string bytes;
+    if (!ReadBytesInto(path, bytes)) return std::nullopt;
+    return bytes;
+}
+
+bool WriteBytes(const std::string& path, std::string_view bytes) {
+    return WriteWith(path, bytes, O_TRUNC);
+}
+
+std::optional<std::vector<std::string>> ReadLines(const std::string& path) {
+    const auto bytes = ReadBytes(path);
+    if (!bytes) return std::nullopt;
+    return SplitLines(FromWindows1252(*bytes));
+}
+
+std::optional<std::vector<std::string>> ReadUtf8Lines(const std::string& path) {
+    const auto bytes = ReadBytes(path);
+    if (!bytes) return std::nullopt;
+    return SplitLines(*bytes);
+}
+
+bool WriteLines(const std::string& path, const std::vector<std::string>& lines) {
+    return WriteBytes(path, ToWindows1252(JoinLines(lines)));
+}
+
+bool WriteUtf8Lines(const std::string& path, const std::vector<std::string>& lines) {
+    return WriteBytes(path, JoinLines(lines));
+}
+
+bool AppendLine(const std::string& path, const std::string& line) {
+    return WriteWith(path, ToWindows1252(line + "\r\n"), O_APPEND);
+}
+
+bool FileExists(const std::string& path) {
+    const int file = OpenForReading(path);
+    if (file < 0) return false;
+    struct stat info {};
+    const bool isFile = ::fstat(file, &info) == 0 && !S_ISDIR(info.st_mode);
+    ::close(file);
+    return isFile;
+}
+
+bool FolderExists(const std::string& path) {
+    return S_ISDIR(ModeOf(FindSpelling(path), true));
+}
+
+bool FolderWritable(const std::string& path) {
+    const std::string found = FindSpelling(path);
+    return S_ISDIR(ModeOf(found, true)) && ::access(found.c_str(), W_OK | X_OK) == 0;
+}
+
+std::vector<std::string> ListFolder(const std::string& folder) {
+    std::vector<std::string> names;
+    std::error_code error;
+    fs::directory_iterator entries(FindSpelling(folder), error);
+    for (; !error && entries != fs::directory_iterator(); entries.increment(error)) {
+        names.push_back(entries->path().filename().string());
+    }
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+std::vector<std::string> ListFiles(const std::string& folder, std::string_view pattern) {
+    const std::string wanted = LowerCase(pattern);
+    const std::string found = FindSpelling(folder);
+    std::vector<std::string> names;
+    for (const std::string& name : ListFolder(folder)) {
+        if (wanted != "*.*" && !Matches(LowerCase(name), wanted)) continue;
+        if (!S_ISDIR(ModeOf(JoinPath(found, name), true))) names.push_back(name);
+    }
+    std::stable_sort(names.begin(), names.end(), [](const std::string& a, const std::string& b) {
+        return LowerCase(a) < LowerCase(b);
+    });
+    return names;
+}
+
+bool CopyFile(const std::string& source, const std::string& target) {
+    static std::string bytes;
+    if (!ReadBytesInto(source, bytes)) return false;
+    return WriteBytes(target, bytes);
+}
+
+bool DeleteFile(const std::string& path) {
+    const bool gone = ::unlink(FindSpelling(path).c_str()) == 0;
+    ForgetSpelling(path);
+    return gone;
+}
+
+void DeleteFiles(const std::string& folder, std::string_view pattern) {
+    for (const std::string& name : ListFiles(folder, pattern)) DeleteFile(JoinPath(folder, name));
+}
+
+bool MakeFolders(const std::string& path) {
+    const std::string target = FindSpelling(path);
+    std::error_code error;
+    fs::create_directories(target, error);
+    ForgetSpellings();
+    return S_ISDIR(ModeOf(target, true));
+}
+
+bool RemoveFolder(const std::string& path) {
+    const bool gone = ::rmdir(FindSpelling(path).c_str()) == 0;
+    ForgetSpellings();
+    return gone;
+}
+
+bool Rename(const std::string& path, const std::string& newName) {
+    const std::string source = FindSpelling(path);
+    const std::string target = JoinPath(FolderOf(source), newName);
+    const bool onlyCase = EqualNoCase(NameOf(source), newName);
+    if (!onlyCase && ModeOf(FindSpelling(target), false) != 0) return false;
+    const bool renamed = ::rename(source.c_str(), target.c_str()) == 0;
+    ForgetSpellings();
+    return renamed;
+}
+
+bool ChangeFolder(const std::string& path) {
+    return ::chdir(FindSpelling(path).c_str()) == 0;
+}
+
+std::string AbsolutePath(const std::string& path) {
+    std::error_code error;
+    const fs::path absolute = fs::absolute(path, error);
+    return error ? path : absolute.lexically_normal().string();
+}
+
+std::string ProgramPath() {
+    std::error_code error;
+    return fs::read_symlink("/proc/self/exe", error).string();
+}
+
+bool IsLink(const std::string& path) {
+    return S_ISLNK(ModeOf(FindSpelling(path), false));
+}
+
+std::string TrueSpelling(const std::string& path) {
+    return FindSpelling(path);
+}
+
+}  // namespace verandis
