@@ -12,8 +12,8 @@ std::string DeliveredFolder();
 bool IsDataRoot(const std::string& folder);
 
 /// Makes a data root from the delivered data and writes the line of the project of the slots. An
-/// empty text when done, else what is wrong, as one sentence. Refuses a folder that holds a data root
-/// already, so that nothing of it is lost.
+/// empty text when done, else what is wrong, as one sentence. Refuses a folder that holds a data
+/// root already, so that nothing of it is lost.
 std::string MakeDataRoot(const std::string& folder);
 
 }  // namespace verandis

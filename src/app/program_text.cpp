@@ -9,6 +9,7 @@ namespace verandis {
 namespace {
 
 constexpr int kNumbersPerLanguage = 10000;
+constexpr int kSwedish = 1;
 
 Catalogue ReadCatalogue() {
     const auto lines = ReadLines(JoinPath(session.SimulatorFolder, "ProgramText.Dat"));
@@ -36,6 +37,12 @@ std::string Text(int number) {
 
 std::string TextFor(int number, int role) {
     return TextRole(Text(number), role);
+}
+
+std::string FrequencyCaption(int number) {
+    const std::string text = Text(number);
+    return text.substr(0, text.find(' ')) +
+           (session.Language == kSwedish ? " frekvens" : " frequency");
 }
 
 }  // namespace verandis

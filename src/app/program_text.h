@@ -21,4 +21,8 @@ std::string Text(int number);
 /// The part of an entry that serves two places (see `TextRole`), in the session's language.
 std::string TextFor(int number, int role);
 
+/// Name of a frequency diagram: the first word of the catalogue text and the language's word for
+/// frequency.
+std::string FrequencyCaption(int number);
+
 }  // namespace verandis

@@ -58,7 +58,7 @@ struct Session {
     int ActiveShape = 0;   // 1 U, 2 O, 3 V, 4 I
     int ActiveCaseNo = 0;  // 1 to 4
 
-    SlotTable<bool> ChkCase{};           // the check boxes as they stand
+    SlotTable<bool> ChkCase{};            // the check boxes as they stand
     SlotTable<std::int16_t> CaseMarks{};  // 1 when marked for the run, set by SetActiveRuns
     std::int16_t MarkedCount = 0;
     float CalcMode = kNoCalculation;

@@ -41,8 +41,9 @@ void NameClimateOfThisMachine() {
     if (!entry || !climates) return;
     const auto files = ListFiles(*climates, "*.CLI");
     if (files.empty()) return;
-    const std::string path = Replaced(Replaced(*entry, kFolderToken, TrimBlanks(session.SystemFolder)),
-                                      kFileToken, files.front());
+    const std::string path =
+        Replaced(Replaced(*entry, kFolderToken, TrimBlanks(session.SystemFolder)), kFileToken,
+                 files.front());
     SetSiteClimate(session.CaseFolder, TrueSpelling(path));
 }
 
@@ -63,7 +64,8 @@ bool CopyTemplate(int shape) {
 void MendProjectLine(const ProjectRow& row, const std::string& folder) {
     ReplaceList(session.ProjectRoot, kProjectListName,
                 [&](const std::string& line) -> std::optional<std::string> {
-                    const bool home = EqualNoCase(TrimBlanks(LeftOfSeparator(line, "\t")), row.name);
+                    const bool home =
+                        EqualNoCase(TrimBlanks(LeftOfSeparator(line, "\t")), row.name);
                     return home ? LowerCase(row.name + "\t" + folder) : line;
                 });
 }

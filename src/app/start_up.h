@@ -13,7 +13,7 @@ struct MenuState {
     bool newProject = true;
     bool projectDependent = false;  // M_ThermalLoads, M_Result
     bool caseCommands = false;      // M_Case
-    bool modelCommands = false;     // M_Library, M_MOdel, M_Output: disabled with a case and without
+    bool modelCommands = false;  // M_Library, M_MOdel, M_Output: disabled with a case and without
 };
 
 /// After a change of project or case: makes the folder of projects the current one and tells which
@@ -24,8 +24,8 @@ MenuState StartUp();
 /// that name stands in the folder of projects. False when there is no such project.
 bool OpenHomeProject();
 
-/// Makes the sixteen slots of the open project anew, whatever they held. A step that fails is passed
-/// over. Leaves slot V1 open and active. False when no template case could be copied.
+/// Makes the sixteen slots of the open project anew, whatever they held. A step that fails is
+/// passed over. Leaves slot V1 open and active. False when no template case could be copied.
 bool RebuildSlots();
 
 /// Catalogue and project of the slots, without touching the slots: for work on them as they stand.

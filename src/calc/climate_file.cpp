@@ -141,9 +141,8 @@ float SolarRadiation(int kind, int month, int directionIndex, int tiltIndex,
                     NumberText(double(tiltIndex)) + " lies outside the radiation table",
                 element);
     }
-    return climateTables.SolarTable[static_cast<std::size_t>(kind)][static_cast<std::size_t>(month)]
-                                   [static_cast<std::size_t>(directionIndex)]
-                                   [static_cast<std::size_t>(tiltIndex)];
+    return climateTables.SolarTable[static_cast<std::size_t>(kind)][static_cast<std::size_t>(
+        month)][static_cast<std::size_t>(directionIndex)][static_cast<std::size_t>(tiltIndex)];
 }
 
 void ReadClimateBytes(std::string_view bytes, const std::string& file) {

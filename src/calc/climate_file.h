@@ -6,9 +6,9 @@
 
 namespace verandis {
 
-inline constexpr int kGlassKinds = 4;     // 0 no glass, else number of reference panes
-inline constexpr int kDirections = 29;    // index 0 horizontal, else direction / 10 + 1
-inline constexpr int kTilts = 10;         // tilt / 10
+inline constexpr int kGlassKinds = 4;    // 0 no glass, else number of reference panes
+inline constexpr int kDirections = 29;   // index 0 horizontal, else direction / 10 + 1
+inline constexpr int kTilts = 10;        // tilt / 10
 inline constexpr int kMonthPlaces = 13;  // months 1 to 12, and a place 0
 
 /// The climate of the case that was read last; one copy. The reader does not clear it: what a file
@@ -19,7 +19,8 @@ struct ClimateTables {
     std::array<std::array<float, 4>, kMonthPlaces> ClimateMonths{};
 
     /// Radiation in kWh/m2 by glass kind, month 1 to 12, direction index and tilt index.
-    std::array<std::array<std::array<std::array<float, kTilts>, kDirections>, kMonthPlaces>, kGlassKinds>
+    std::array<std::array<std::array<std::array<float, kTilts>, kDirections>, kMonthPlaces>,
+               kGlassKinds>
         SolarTable{};
 };
 
@@ -41,8 +42,8 @@ float SolarRadiation(int kind, int month, int directionIndex, int tiltIndex,
 void ReadClimateFile();
 
 /// Path of that file: the folder that the case's site file names, or the system's climate folder
-/// when it names none that is there; then the case's climate with "S.dat" behind it. Throws RunError
-/// when no climate folder can be told.
+/// when it names none that is there; then the case's climate with "S.dat" behind it. Throws
+/// RunError when no climate folder can be told.
 std::string ClimateFilePath();
 
 /// Reads a climate file's bytes into the tables; `file` names it in error sentences.

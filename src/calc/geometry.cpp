@@ -22,18 +22,14 @@ constexpr GlazedElement kGlazedO[] = {{{"XO201-S", Gable}, true},
                                       {{"XO202-N", Gable}, true},
                                       {{"XO203-W", GableSlope}, false},
                                       {{"XO204-E", GableSlope}, false}};
-constexpr GlazedElement kGlazedV[] = {{{"XV201-W", LeanToSide}, true},
-                                      {{"XV202-E", LeanToSide}, true},
-                                      {{"XV203-S", LeanToFront}, true},
-                                      {{"XV204-W", LeanToGable}, true},
-                                      {{"XV205-E", LeanToGable}, true},
-                                      {{"XV206-S", LeanToSlope}, false}};
-constexpr GlazedElement kGlazedI[] = {{{"XI201-S", WidthHeight}, true},
-                                      {{"XI202-N", WidthHeight}, true},
-                                      {{"XI203-S", Gable}, true},
-                                      {{"XI204-N", Gable}, true},
-                                      {{"XI205-W", GableSlope}, false},
-                                      {{"XI206-E", GableSlope}, false}};
+constexpr GlazedElement kGlazedV[] = {
+    {{"XV201-W", LeanToSide}, true},  {{"XV202-E", LeanToSide}, true},
+    {{"XV203-S", LeanToFront}, true}, {{"XV204-W", LeanToGable}, true},
+    {{"XV205-E", LeanToGable}, true}, {{"XV206-S", LeanToSlope}, false}};
+constexpr GlazedElement kGlazedI[] = {
+    {{"XI201-S", WidthHeight}, true}, {{"XI202-N", WidthHeight}, true},
+    {{"XI203-S", Gable}, true},       {{"XI204-N", Gable}, true},
+    {{"XI205-W", GableSlope}, false}, {{"XI206-E", GableSlope}, false}};
 
 constexpr SpaceElement kPartitionU[] = {
     {"XU101-W", DepthHeight}, {"XU102-E", DepthHeight}, {"XU103-N", WidthHeight}};

@@ -7,16 +7,16 @@ namespace verandis {
 
 /// How the area of an element follows from the case's dimensions.
 enum class AreaRule {
-    WidthHeight,   // W times H
-    DepthHeight,   // D times H
-    WidthDepth,    // W times D, a floor
-    Gable,         // triangle over W
-    GableSlope,    // half of a gable roof over W, along D
-    WidthOffset,   // W times O, a floor
-    LeanToSide,    // O times the height at the low side
-    LeanToFront,   // W times the height at the low side
-    LeanToGable,   // triangle over O
-    LeanToSlope    // W times the slope over O
+    WidthHeight,  // W times H
+    DepthHeight,  // D times H
+    WidthDepth,   // W times D, a floor
+    Gable,        // triangle over W
+    GableSlope,   // half of a gable roof over W, along D
+    WidthOffset,  // W times O, a floor
+    LeanToSide,   // O times the height at the low side
+    LeanToFront,  // W times the height at the low side
+    LeanToGable,  // triangle over O
+    LeanToSlope   // W times the slope over O
 };
 
 /// An element of the glazed space and the rule of its area.

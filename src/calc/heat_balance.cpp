@@ -65,7 +65,8 @@ void AddForcedVentilation() {
     const double flow = PropertyNumber("HVAC", "FVV").value_or(0.0);  // l/s
     const double hourly = 3.6 * flow;                                 // m3/h
     HeatBalance& balance = heatBalance;
-    if (*mode == 1) balance.AirChangeG += Divide(hourly, balance.VolumeG, "the glazed space's volume");
+    if (*mode == 1)
+        balance.AirChangeG += Divide(hourly, balance.VolumeG, "the glazed space's volume");
     if (*mode == 2) balance.AirChangeB += Divide(hourly, balance.VolumeB, "the building's volume");
 }
 
@@ -175,13 +176,14 @@ void SumElementLosses(int shape) {
     const std::string_view floor = elements.floor.id;
     ElementData(shape, floor, record);
     const double resistance = Divide(1, record.u, "the floor's U value", floor);
-    balance.UAGlazing += static_cast<float>(
-        Divide(record.area, resistance + double(balance.GroundResistance),
-               "the floor's resistance to the ground", floor));
+    balance.UAGlazing +=
+        static_cast<float>(Divide(record.area, resistance + double(balance.GroundResistance),
+                                  "the floor's resistance to the ground", floor));
     for (const SpaceElement& wall : elements.partition) {
         ElementData(shape, wall.id, record);
-        balance.UAWalls += (1.0 - double(record.windowPart)) * double(record.u) * double(record.area) +
-                           double(record.area) * double(record.windowPart) * double(record.windowU);
+        balance.UAWalls +=
+            (1.0 - double(record.windowPart)) * double(record.u) * double(record.area) +
+            double(record.area) * double(record.windowPart) * double(record.windowU);
     }
 }
 
@@ -207,9 +209,9 @@ void CalcMonthBalance(int shape, int month) {
 void CalcGlazedSpaceTemperature() {
     HeatBalance& balance = heatBalance;
     const Losses losses = SpaceLosses();
-    const auto total = static_cast<float>(
-        kAirConstant * (balance.AirChangeG * balance.VolumeG + balance.AirChangeB * balance.VolumeB) +
-        balance.UAWalls + double(balance.UAGlazing));
+    const auto total = static_cast<float>(kAirConstant * (balance.AirChangeG * balance.VolumeG +
+                                                          balance.AirChangeB * balance.VolumeB) +
+                                          balance.UAWalls + double(balance.UAGlazing));
     balance.TempGFree =
         Divide(balance.TempOut * losses.toOutdoors + balance.TempB * losses.toBuilding,
                double(total), "the sum of the glazed space's losses");

@@ -5,7 +5,8 @@
 #include <string_view>
 
 // The monthly balance of the glazed space: one node between the outdoor air and the building. Each
-// routine works on the open case and on the one state below, in the order in which a run calls them.
+// routine works on the open case and on the one state below, in the order in which a run calls
+// them.
 
 namespace verandis {
 
@@ -15,27 +16,27 @@ inline constexpr float kNoDemand = -1;       // in place of a demand that is not
 /// State of the balance; it stays as the last case left it. A test starts anew with
 /// `heatBalance = {}`.
 struct HeatBalance {
-    float UAGlazing = 0;         // W/K, glazed space to outdoors and ground
-    double UAWalls = 0;          // W/K, glazed space to building
-    double VolumeG = 0;          // m3, glazed space
-    double VolumeB = 0;          // m3, building without the glazed space
-    double AirChangeG = 0;       // 1/h
-    double AirChangeB = 0;       // 1/h
-    double SetPointG = kNoSetPoint;  // C, heating set point of the glazed space
-    double TempB = 0;            // C, indoor temperature of the building
-    double TempOut = 0;          // C, mean of this month
-    double SecondClimateField = 0;  // kept beside it, not used
-    double TempGFree = 0;        // C, glazed space without heating
-    double HeatDemandG = 0;      // W
-    float TdgMean = 0;           // C, demand of the designer
+    float UAGlazing = 0;               // W/K, glazed space to outdoors and ground
+    double UAWalls = 0;                // W/K, glazed space to building
+    double VolumeG = 0;                // m3, glazed space
+    double VolumeB = 0;                // m3, building without the glazed space
+    double AirChangeG = 0;             // 1/h
+    double AirChangeB = 0;             // 1/h
+    double SetPointG = kNoSetPoint;    // C, heating set point of the glazed space
+    double TempB = 0;                  // C, indoor temperature of the building
+    double TempOut = 0;                // C, mean of this month
+    double SecondClimateField = 0;     // kept beside it, not used
+    double TempGFree = 0;              // C, glazed space without heating
+    double HeatDemandG = 0;            // W
+    float TdgMean = 0;                 // C, demand of the designer
     float PowerDemandMax = kNoDemand;  // W
     float HeatEnergyMax = kNoDemand;   // Wh
     float CoolEnergyMax = kNoDemand;   // Wh
-    float GroundResistance = 0;  // m2K/W, floor of the glazed space to the ground
-    float SolarGainG = 0;        // kWh of the month through the glazing; no equation uses it
-    double SunPanelFactor = 0;   // no equation uses it
+    float GroundResistance = 0;        // m2K/W, floor of the glazed space to the ground
+    float SolarGainG = 0;              // kWh of the month through the glazing; no equation uses it
+    double SunPanelFactor = 0;         // no equation uses it
     std::array<int, 13> MonthHours{};  // from 1
-    int MonthHoursNow = 0;       // hours of this month; no equation uses it
+    int MonthHoursNow = 0;             // hours of this month; no equation uses it
 };
 
 extern HeatBalance heatBalance;

@@ -24,8 +24,8 @@ std::vector<std::string> ResultLines(const CaseResult& result, const RunResults:
     }
     for (std::size_t month = 1; month <= kMonths; ++month) {
         const MonthResult& each = year[month];
-        for (const float value : {each.Tmin, each.Tmean, each.Ph, each.Eh, each.Ec, each.Reserved,
-                                  each.TempOut}) {
+        for (const float value :
+             {each.Tmin, each.Tmean, each.Ph, each.Eh, each.Ec, each.Reserved, each.TempOut}) {
             add(value);
         }
     }

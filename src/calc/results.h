@@ -26,13 +26,13 @@ struct MonthResult {
 /// The year's figures of one marked case: the demands that the design guide compares with
 /// `Tmin`, `Tmean`, `Ph`, `Eh` and `Ec`, then its verdict.
 struct CaseResult {
-    float SetPointG = 0;      // C, -100 when not given
-    float TdgMean = 0;        // C
-    float PowerDemandMax = 0;  // W, -1 when not given
-    float HeatEnergyMax = 0;  // Wh, -1 when not given
-    float CoolEnergyMax = 0;  // Wh, -1 when not given
-    std::string Verdict;      // "U" none yet, "T" redesign, "F" accepted
-    float TempB = 0;          // C, indoor temperature of the building
+    float SetPointG = 0;          // C, -100 when not given
+    float TdgMean = 0;            // C
+    float PowerDemandMax = 0;     // W, -1 when not given
+    float HeatEnergyMax = 0;      // Wh, -1 when not given
+    float CoolEnergyMax = 0;      // Wh, -1 when not given
+    std::string Verdict;          // "U" none yet, "T" redesign, "F" accepted
+    float TempB = 0;              // C, indoor temperature of the building
     std::optional<float> TdgMin;  // C, the designer's demand on `Tmin` when he gave one
 };
 

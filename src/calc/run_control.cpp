@@ -82,9 +82,14 @@ void StoreCase(const Slot& slot) {
     const HeatBalance& balance = heatBalance;
     const auto tdgMin = PropertyNumber("TDG", "TDGMIN");
     CaseResult& result = runResults.CaseResults[runResults.RunPosition];
-    result = {static_cast<float>(balance.SetPointG), balance.TdgMean, balance.PowerDemandMax,
-              balance.HeatEnergyMax, balance.CoolEnergyMax, "U",
-              static_cast<float>(balance.TempB), std::nullopt};
+    result = {static_cast<float>(balance.SetPointG),
+              balance.TdgMean,
+              balance.PowerDemandMax,
+              balance.HeatEnergyMax,
+              balance.CoolEnergyMax,
+              "U",
+              static_cast<float>(balance.TempB),
+              std::nullopt};
     if (tdgMin) result.TdgMin = static_cast<float>(*tdgMin);
     ResultCount(slot) = 1;
 }
@@ -92,8 +97,7 @@ void StoreCase(const Slot& slot) {
 RunOutcome RunSteadyState(RunDisplay& display) {
     display.AllowPrinting(false);
     display.SetCaption(FrameCaption(TextFor(kSteadyWord, 1)));
-    CurrentProgress().SetMaximum(
-        WithDiagramStep(session.MarkedCount * kMonths * kStepsPerMonth));
+    CurrentProgress().SetMaximum(WithDiagramStep(session.MarkedCount * kMonths * kStepsPerMonth));
     ReadRefWindows();
     runResults.RunPosition = 0;
     for (const Slot& slot : MarkedSlots()) {
@@ -225,7 +229,8 @@ void UseDynamicRun(DynamicRun& run) {
 }
 
 std::string ClimateLabel() {
-    session.PropertyValue.clear();  // so that a slot without its file does not take the last climate
+    session.PropertyValue
+        .clear();  // so that a slot without its file does not take the last climate
     GetCaseProperty("CLIMATE", "FILE", session.PropertyValue);
     const std::string& climate = session.PropertyValue;
     const std::size_t mark = climate.find('_');

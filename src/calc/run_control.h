@@ -13,18 +13,18 @@ class RunDisplay {
 public:
     virtual ~RunDisplay() = default;
 
-    virtual void HideDiagrams() {}                         // SSTab1
+    virtual void HideDiagrams() {}                           // SSTab1
     virtual void SetCaption(const std::string& /*text*/) {}  // of Frame8
-    virtual void AllowPrinting(bool /*allowed*/) {}        // PrintOut
-    virtual void AllowCancel(bool /*allowed*/) {}          // Command1
+    virtual void AllowPrinting(bool /*allowed*/) {}          // PrintOut
+    virtual void AllowCancel(bool /*allowed*/) {}            // Command1
     virtual void CloseGuide() {}
     virtual void OpenGuide() {}
     virtual void ShowSteadyCharts() {}
     virtual void ShowDynamicCharts() {}
-    virtual void ShowDiagrams() {}                         // SSTab1
-    virtual void AllowTwoCaseView(bool /*allowed*/) {}     // DCheck2
+    virtual void ShowDiagrams() {}                      // SSTab1
+    virtual void AllowTwoCaseView(bool /*allowed*/) {}  // DCheck2
     virtual void ResetSeriesBoxes() {}
-    virtual void BlackenMarkLabels() {}                    // Label3 and Label4
+    virtual void BlackenMarkLabels() {}  // Label3 and Label4
 };
 
 /// The detailed side of a dynamic run, slot by slot.

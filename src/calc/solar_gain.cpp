@@ -66,9 +66,9 @@ void CalcSolarGain(int shape, int month) {
         const float radiation =
             SolarRadiation(kind, month, directionIndex, TiltIndex(slope), element.id);
         const double reference = ReferenceTransmittance(kind);
-        heatBalance.SolarGainG += static_cast<float>(
-            Divide(double(area) * double(radiation) * transmittance, reference,
-                   "the transmittance of the reference window", element.id));
+        heatBalance.SolarGainG +=
+            static_cast<float>(Divide(double(area) * double(radiation) * transmittance, reference,
+                                      "the transmittance of the reference window", element.id));
     }
 }
 

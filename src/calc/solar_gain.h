@@ -2,8 +2,8 @@
 
 namespace verandis {
 
-/// Sets `heatBalance.SolarGainG`: the month's radiation through the glazed elements of the open case.
-/// The window of the first element stands for all of them. Throws RunError when an element's
+/// Sets `heatBalance.SolarGainG`: the month's radiation through the glazed elements of the open
+/// case. The window of the first element stands for all of them. Throws RunError when an element's
 /// direction or tilt lies outside the radiation table.
 void CalcSolarGain(int shape, int month);
 

@@ -19,10 +19,10 @@ inline constexpr int kShapeI = 4;
 
 /// What tells the shapes apart as words; their elements stand in the tables below.
 struct ShapeWords {
-    char letter;             // 'U'
+    char letter;              // 'U'
     std::string_view folder;  // "UShape", the template's folder
     std::string_view word;    // "ushape", in front of a case number
-    int textNumber;          // catalogue text of the shape's word
+    int textNumber;           // catalogue text of the shape's word
 };
 
 inline constexpr std::array<ShapeWords, kShapeCount> kShapes = {{
@@ -44,7 +44,7 @@ int ShapeNumber(std::string_view name);
 
 /// One of the sixteen working places.
 struct Slot {
-    int shape = 0;     // 1 to 4
+    int shape = 0;   // 1 to 4
     int caseNo = 0;  // 1 to 4
 
     friend bool operator==(const Slot&, const Slot&) = default;

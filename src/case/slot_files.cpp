@@ -36,9 +36,8 @@ void CopyPart(const Lines& lines, const std::string& target, char shapeLetter,
         return LowerCase(line).find(marker) != std::string::npos;
     });
     if (begin == lines.end()) return;
-    const auto end = std::find_if(begin + 1, lines.end(), [](const std::string& line) {
-        return line.starts_with(kPartEnd);
-    });
+    const auto end = std::find_if(
+        begin + 1, lines.end(), [](const std::string& line) { return line.starts_with(kPartEnd); });
     WriteLines(target, Lines(begin + 1, end));
 }
 
@@ -71,8 +70,7 @@ std::string TemplateName(int shape, int caseNo) {
 
 void InstallSlotFiles(int shape) {
     for (int number = 1; number <= kCasesPerShape; ++number) {
-        const std::string source =
-            InProject(WordsOf(shape).folder, TemplateName(shape, number));
+        const std::string source = InProject(WordsOf(shape).folder, TemplateName(shape, number));
         if (!FileExists(source)) continue;
         CopyFile(source, InProject(SlotFolderName({shape, number}), kPropertyFileName));
     }

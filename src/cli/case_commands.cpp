@@ -37,8 +37,9 @@ int StopCommand(const CommandCall& call, const std::string& sentence) {
 Slot OpenLabelledSlot(const CommandCall& call, const std::string& label) {
     const Slot slot = SlotOfLabel(label);
     if (slot.shape == 0) {
-        StopCommand(call, "There is no slot " + label + ": slots are U1 to U4, O1 to O4, V1 to V4, "
-                          "I1 to I4");
+        StopCommand(call, "There is no slot " + label +
+                              ": slots are U1 to U4, O1 to O4, V1 to V4, "
+                              "I1 to I4");
         return {};
     }
     if (ActivateSlot(slot.caseNo, slot.shape, "")) return slot;
@@ -63,8 +64,8 @@ int InitCommand(const CommandCall& call) {
 
 int StartCommand(const CommandCall& call) {
     if (!StartSession()) {
-        return StopCommand(call, "The slots cannot be made from the templates in " +
-                                     session.ProjectRoot);
+        return StopCommand(call,
+                           "The slots cannot be made from the templates in " + session.ProjectRoot);
     }
     call.out << Text(kRebuiltWord) << ": " << TrueSpelling(session.ProjectFolder) << "\n";
     return kExitDone;
@@ -102,8 +103,9 @@ int SetCommand(const CommandCall& call) {
     const bool badName = section.find('\t') != std::string::npos ||
                          key.find('\t') != std::string::npos || section.empty() || key.empty();
     if (badName || HoldsLineEnd(section + key + value)) {
-        return StopCommand(call, "Section and key must be filled, without a TAB, and no line may end "
-                                 "in them or in the value");
+        return StopCommand(call,
+                           "Section and key must be filled, without a TAB, and no line may end "
+                           "in them or in the value");
     }
     session.ElementKindMark = static_cast<std::int16_t>(call.line.kind);
     const bool stored = SetCaseProperty(section, key, value);

@@ -1,7 +1,6 @@
 #include "cli/command_line.h"
 
 #include <algorithm>
-#include <functional>
 
 #include "platform/files.h"
 #include "text/numbers.h"
@@ -9,89 +8,82 @@
 namespace verandis {
 namespace {
 
-/// One option: `take` gets its value, or an empty text when it takes none, and is false for a value
-/// that it refuses.
+/// One option; exactly one of its three targets is set.
 struct Option {
     const char* name;
-    bool takesValue;
-    bool (*take)(CommandLine&, const std::string&);
+    std::string CommandLine::*path = nullptr;
+    int CommandLine::*number = nullptr;
+    bool CommandLine::*flag = nullptr;
+    int least = 0;  // bounds of a number
+    int most = 0;
+    bool flagValue = true;
+
+    bool TakesValue() const { return flag == nullptr; }
 };
 
-bool TakeNumberBetween(const std::string& text, int least, int most, int& target) {
-    if (!IsDigitsOnly(text)) return false;
-    target = WholeNumber(ToNumber(text));
-    return target >= least && target <= most;
+constexpr Option kOptions[] = {
+    {.name = "--system", .path = &CommandLine::system},
+    {.name = "--csv", .path = &CommandLine::csv},
+    {.name = "--json", .path = &CommandLine::json},
+    {.name = "--lang", .number = &CommandLine::language, .least = 1, .most = 2},
+    {.name = "--kind", .number = &CommandLine::kind, .least = 0, .most = 32767},
+    {.name = "--yes", .flag = &CommandLine::yes},
+    {.name = "--no", .flag = &CommandLine::yes, .flagValue = false},
+    {.name = "--help", .flag = &CommandLine::help},
+    {.name = "--version", .flag = &CommandLine::version},
+};
+
+/// False for a value that the option refuses.
+bool Apply(const Option& option, const std::string& value, CommandLine& line) {
+    if (option.flag) {
+        line.*option.flag = option.flagValue;
+        return value.empty();
+    }
+    if (option.path) {
+        line.*option.path = AbsolutePath(value);
+        return !value.empty();
+    }
+    if (!IsDigitsOnly(value)) return false;
+    line.*option.number = WholeNumber(ToNumber(value));
+    return line.*option.number >= option.least && line.*option.number <= option.most;
 }
 
-const Option kOptions[] = {
-    {"--system", true,
-     [](CommandLine& line, const std::string& value) {
-         line.system = AbsolutePath(value);
-         return !value.empty();
-     }},
-    {"--csv", true,
-     [](CommandLine& line, const std::string& value) {
-         line.csv = AbsolutePath(value);
-         return !value.empty();
-     }},
-    {"--json", true,
-     [](CommandLine& line, const std::string& value) {
-         line.json = AbsolutePath(value);
-         return !value.empty();
-     }},
-    {"--lang", true,
-     [](CommandLine& line, const std::string& value) {
-         return TakeNumberBetween(value, 1, 2, line.language);
-     }},
-    {"--kind", true,
-     [](CommandLine& line, const std::string& value) {
-         return TakeNumberBetween(value, 0, 32767, line.kind);
-     }},
-    {"--yes", false, [](CommandLine& line, const std::string&) { return line.yes = true; }},
-    {"--no", false,
-     [](CommandLine& line, const std::string&) {
-         line.yes = false;
-         return true;
-     }},
-    {"--help", false, [](CommandLine& line, const std::string&) { return line.help = true; }},
-    {"--version", false, [](CommandLine& line, const std::string&) { return line.version = true; }},
-};
+/// Takes the option at `at`, which moves on to its value when that stands in the next argument. The
+/// complaint about it, empty when there is none.
+std::string TakeOption(const std::vector<std::string>& arguments, std::size_t& at,
+                       CommandLine& line) {
+    const std::string& word = arguments[at];
+    const std::size_t sign = word.find('=');
+    const std::string name = word.substr(0, sign);
+    const auto* option = std::find_if(std::begin(kOptions), std::end(kOptions),
+                                      [&](const Option& each) { return name == each.name; });
+    if (option == std::end(kOptions)) return "there is no option " + name;
+    std::string value = sign == std::string::npos ? "" : word.substr(sign + 1);
+    if (option->TakesValue() && sign == std::string::npos) {
+        if (++at >= arguments.size()) return "option " + name + " needs a value";
+        value = arguments[at];
+    }
+    if (Apply(*option, value, line)) return "";
+    return "option " + name + " cannot be \"" + value + "\"";
+}
 
 }  // namespace
 
 CommandLine ParseCommandLine(const std::vector<std::string>& arguments) {
     CommandLine line;
-    const auto complain = [&](const std::string& text) {
-        if (line.complaint.empty()) line.complaint = text;
-    };
     for (std::size_t at = 0; at < arguments.size(); ++at) {
         const std::string& word = arguments[at];
         if (word == "--") {
-            line.words.insert(line.words.end(), arguments.begin() + static_cast<std::ptrdiff_t>(at) + 1,
-                              arguments.end());
+            const auto rest = arguments.begin() + static_cast<std::ptrdiff_t>(at) + 1;
+            line.words.insert(line.words.end(), rest, arguments.end());
             break;
         }
         if (!word.starts_with("--")) {
             line.words.push_back(word);
             continue;
         }
-        const std::size_t sign = word.find('=');
-        const std::string name = word.substr(0, sign);
-        const auto* option = std::find_if(std::begin(kOptions), std::end(kOptions),
-                                          [&](const Option& each) { return name == each.name; });
-        if (option == std::end(kOptions)) {
-            complain("there is no option " + name);
-            continue;
-        }
-        std::string value = sign == std::string::npos ? "" : word.substr(sign + 1);
-        if (option->takesValue && sign == std::string::npos) {
-            if (++at >= arguments.size()) {
-                complain("option " + name + " needs a value");
-                break;
-            }
-            value = arguments[at];
-        }
-        if (!option->take(line, value)) complain("option " + name + " cannot be \"" + value + "\"");
+        const std::string complaint = TakeOption(arguments, at, line);
+        if (line.complaint.empty()) line.complaint = complaint;
     }
     return line;
 }

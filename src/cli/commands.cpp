@@ -42,12 +42,13 @@ constexpr Command NotYet(const char* name, const char* arguments) {
 
 const Command kCommands[] = {
     {"init", "DIR", "make a data root from the delivered data", 1, 1, Needs::Nothing, InitCommand},
-    {"start", "", "rebuild the sixteen slots from their templates", 0, 0, Needs::Root, StartCommand},
+    {"start", "", "rebuild the sixteen slots from their templates", 0, 0, Needs::Root,
+     StartCommand},
     {"slots", "", "list the slots with shape, case, climate and note", 0, 0, Needs::Project,
      SlotsCommand},
     {"get", "SLOT SECTION KEY", "show a property", 3, 3, Needs::Project, GetCommand},
-    {"set", "SLOT SECTION KEY VALUE", "store a property; --kind N marks a window (1) or wall (2)", 4,
-     4, Needs::Project, SetCommand},
+    {"set", "SLOT SECTION KEY VALUE", "store a property; --kind N marks a window (1) or wall (2)",
+     4, 4, Needs::Project, SetCommand},
     {"run", "steady|dynamic SLOT...", "calculate; --csv FILE and --json FILE write the months too",
      2, kAnyCount, Needs::Project, RunCommand},
     {"explain", "SLOT", "show the terms of the steady-state balance", 1, 1, Needs::Project,

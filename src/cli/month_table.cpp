@@ -74,8 +74,8 @@ std::string Row(const std::string& head, const std::vector<CalculatedCase>& case
     std::string line = LeftAligned(head, kFirstWidth);
     for (const CalculatedCase& each : cases) {
         for (const Column& column : kColumns) {
-            line += Right(FixedText(valueOf(each.months, column.value), column.decimals),
-                          column.width);
+            line +=
+                Right(FixedText(valueOf(each.months, column.value), column.decimals), column.width);
         }
     }
     return line + "\n";

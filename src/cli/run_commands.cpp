@@ -37,8 +37,9 @@ bool MarkSlots(const CommandCall& call) {
     for (std::size_t at = 1; at < call.arguments.size(); ++at) {
         const Slot slot = OpenLabelledSlot(call, call.arguments[at]);
         if (slot.shape == 0) return false;
-        session.ChkCase[static_cast<std::size_t>(slot.shape)]
-                       [static_cast<std::size_t>(slot.caseNo)] = true;
+        session
+            .ChkCase[static_cast<std::size_t>(slot.shape)][static_cast<std::size_t>(slot.caseNo)] =
+            true;
     }
     return true;
 }

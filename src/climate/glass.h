@@ -23,7 +23,7 @@ public:
     GlassTable();
 
     /// Linear between steps of the cosine; `cosIncidence` lies within 0 to 1.
-    const std::array<double, kPlaneKinds> At(double cosIncidence) const {
+    std::array<double, kPlaneKinds> At(double cosIncidence) const {
         const double place = cosIncidence * kSteps;
         const auto step = static_cast<std::size_t>(place);
         const double part = place - static_cast<double>(step);

@@ -28,18 +28,14 @@ struct AngleSpan {
     double to = 0;
 };
 
-/// The sunlit part of the hour whose middle has this hour angle. Days before and after count too:
-/// near midnight an hour may belong to the evening of one day or the morning of the next.
+/// The sunlit part of the hour whose middle has this hour angle. On the few nights in which the sun
+/// sets and rises within one hour, the longer part stands for both.
 AngleSpan LitSpan(double middle, double sunset) {
     const double from = middle - kHourAngleOfHour / 2;
     const double to = middle + kHourAngleOfHour / 2;
     if (sunset >= kPi) return {from, to};
-    AngleSpan best{middle, middle};
-    for (const double noon : {-2 * kPi, 0.0, 2 * kPi}) {
-        const AngleSpan lit{std::max(from, noon - sunset), std::min(to, noon + sunset)};
-        if (lit.to - lit.from > best.to - best.from) best = lit;
-    }
-    return best;
+    const AngleSpan lit{std::max(from, -sunset), std::min(to, sunset)};
+    return lit.to > lit.from ? lit : AngleSpan{middle, middle};
 }
 
 }  // namespace

@@ -147,37 +147,44 @@ double CloudOf(double clearness) {
     return std::clamp(10 * (0.75 - clearness) / 0.65, 0.0, 10.0);
 }
 
+/// Global radiation of the hours of a month, Wh/m2, whose sum is `target`; sets the clouds of days.
+std::vector<double> GlobalOfHours(const MonthDays& days, const std::vector<double>& ranks,
+                                  double target, const std::vector<SunHour>& sun, Noise& noise,
+                                  double* cloud) {
+    std::vector<double> global(ranks.size() * 24, 0.0);
+    const std::vector<double> clearness = ClearnessOfDays(days, ranks, target);
+    for (std::size_t day = 0; day < ranks.size(); ++day) {
+        cloud[day] = CloudOf(clearness[day]);
+        const double passing = 0.05 + 1.2 * ranks[day] * (1 - ranks[day]);
+        FillDay(&sun[(std::size_t(days.firstDay) + day) * 24], clearness[day], passing, noise,
+                &global[day * 24]);
+    }
+    const double sum = std::accumulate(global.begin(), global.end(), 0.0);
+    for (double& hour : global) hour *= sum > 0 ? target / sum : 0;
+    return global;
+}
+
 /// One month: clearness by day, light by hour. `target` in Wh/m2.
 void FillMonth(int month, double target, const std::vector<SunHour>& sun,
                const std::vector<double>& moods, Noise& noise, SyntheticSun& year) {
     const MonthDays days = DaysOfMonth(month, sun);
+    const auto firstDay = std::size_t(days.firstDay);
     const std::vector<double> ranks = RanksOf(moods, days.firstDay, days.outside.size());
-    std::copy(ranks.begin(), ranks.end(), year.fairness.begin() + days.firstDay);
+    for (std::size_t day = 0; day < ranks.size(); ++day) {
+        year.fairness[firstDay + day] = ranks[day];
+        year.cloud[firstDay + day] = 10 * (1 - ranks[day]);
+    }
     const double reachable = std::min(target, kClearestMonth * days.Sum());
-    std::vector<double> global(days.outside.size() * 24, 0.0);
-    const auto cloud = year.cloud.begin() + days.firstDay;
-    for (std::size_t day = 0; day < ranks.size(); ++day)
-        cloud[std::ptrdiff_t(day)] = 10 * (1 - ranks[day]);
     if (reachable > 0) {
-        const std::vector<double> clearness = ClearnessOfDays(days, ranks, reachable);
-        for (std::size_t day = 0; day < ranks.size(); ++day) {
-            cloud[std::ptrdiff_t(day)] = CloudOf(clearness[day]);
-            const double cloudiness = 0.05 + 1.2 * ranks[day] * (1 - ranks[day]);
-            FillDay(&sun[(std::size_t(days.firstDay) + day) * 24], clearness[day], cloudiness,
-                    noise, &global[day * 24]);
+        const std::vector<double> global =
+            GlobalOfHours(days, ranks, reachable, sun, noise, &year.cloud[firstDay]);
+        for (std::size_t hour = 0; hour < global.size(); ++hour) {
+            const SunHour& at = sun[firstDay * 24 + hour];
+            year.hours[firstDay * 24 + hour] =
+                LitThroughout(at) ? SplitGlobal(global[hour], at) : SplitRadiation{0, global[hour]};
         }
     }
-    const double sum = std::accumulate(global.begin(), global.end(), 0.0);
-    const double scale = sum > 0 ? reachable / sum : 0;
-    const auto first = std::size_t(days.firstDay) * 24;
-    for (std::size_t hour = 0; hour < global.size(); ++hour) {
-        const SunHour& at = sun[first + hour];
-        const double light = global[hour] * scale;
-        year.hours[first + hour] =
-            LitThroughout(at) ? SplitGlobal(light, at) : SplitRadiation{0, light};
-    }
-    const double missing = target - reachable;
-    if (missing > 0) AddTwilight(month, missing, sun, year.hours);
+    if (target > reachable) AddTwilight(month, target - reachable, sun, year.hours);
 }
 
 /// Hours in which the sun is up.

@@ -108,9 +108,10 @@ DayMoods MoodsOfDays(const NormalsTable& table, const std::vector<double>& fairn
         const MonthNormals& normals = table.months[std::size_t(month)];
         const double range = normals.dailyMaximum - normals.dailyMinimum;
         // Cold places and months vary more from day to day; mild coasts hardly more than they
-        // swing.
+        // swing, the tropics less.
+        const double northerly = std::clamp(std::abs(table.site.latitude) / 35, 0.3, 1.0);
         const double deviation =
-            std::min(0.9 * range, std::clamp(3.6 - 0.1 * (normals.mean - 5), 2.4, 6.0));
+            std::min(0.9 * range, northerly * std::clamp(3.6 - 0.1 * (normals.mean - 5), 2.4, 6.0));
         const double fair = 2 * fairness[std::size_t(day)] - 1;
         const double summer =
             YearlySunAt(day).declination / 0.409 * (table.site.latitude < 0 ? -1 : 1);

@@ -69,8 +69,8 @@ void CheckPanes(const std::string& TN, EntryComplaint& complaint) {
 
 void CheckSum(const WindowEntry& entry, EntryComplaint& complaint) {
     if (ToNumber(entry.TT) + ToNumber(entry.TR) + ToNumber(entry.TA) == 100) return;
-    Add(complaint,
-        Text(77) + "+" + Text(78) + "+" + Text(157) + " " + Text(kMustBe) + " 100", "TT");
+    Add(complaint, Text(77) + "+" + Text(78) + "+" + Text(157) + " " + Text(kMustBe) + " 100",
+        "TT");
 }
 
 std::string Percent(const std::string& fraction) {
@@ -142,8 +142,9 @@ bool RoomForType(TypeKind kind, const TextTable& table) {
 int AddNamedType(TypeKind kind, TextTable& table) {
     const int row = table.AddRow();
     table.SetCell(row, 1, " ");
-    const std::string prompt = Text(105) + "\r\n" + Text(106) + NumberText(double(kShortestTypeName)) +
-                               ", " + Text(108) + NumberText(double(kLongestTypeName)) + Text(107);
+    const std::string prompt = Text(105) + "\r\n" + Text(106) +
+                               NumberText(double(kShortestTypeName)) + ", " + Text(108) +
+                               NumberText(double(kLongestTypeName)) + Text(107);
     while (true) {
         const auto name = CurrentPrompts().AskText(prompt, Text(TextsOf(kind).newTitle), "");
         if (!name || name->empty()) {

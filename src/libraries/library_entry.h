@@ -26,8 +26,8 @@ struct WindowEntry {
 
 /// What is wrong with an entry: the message, empty when nothing is, and the field to go to.
 struct EntryComplaint {
-    std::string text;       // lines ended by CR
-    std::string control;    // name of the field's control
+    std::string text;     // lines ended by CR
+    std::string control;  // name of the field's control
     bool empty() const { return text.empty(); }
 };
 

@@ -64,8 +64,8 @@ int FindWallRow(std::string_view name);
 
 /// Lookups of the monthly balance, by the exact name. `kNotSet` gives row 1 (of the pane count: 1)
 /// without a message, an unknown name the same after a message. An empty table throws RunError.
-double WindowU(std::string_view name);             // W/m2K
-double WallU(std::string_view name);               // W/m2K
+double WindowU(std::string_view name);              // W/m2K
+double WallU(std::string_view name);                // W/m2K
 double WindowTransmittance(std::string_view name);  // 0 to 1
 int WindowPanes(std::string_view name);
 

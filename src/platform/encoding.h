@@ -13,7 +13,8 @@ std::string FromWindows1252(std::string_view bytes);
 /// UTF-8, is written as "?".
 std::string ToWindows1252(std::string_view text);
 
-/// Lower case of every letter among bytes in Windows-1252, into `lower`, whose memory is used again.
+/// Lower case of every letter among bytes in Windows-1252, into `lower`, whose memory is used
+/// again.
 void LowerWindows1252(std::string_view bytes, std::string& lower);
 
 /// True when every byte is ASCII, so that both encodings are the same.

@@ -98,7 +98,8 @@ bool Matches(std::string_view name, std::string_view pattern) {
 
 mode_t ModeOf(const std::string& realPath, bool followLinks) {
     struct stat info {};
-    const int result = followLinks ? ::stat(realPath.c_str(), &info) : ::lstat(realPath.c_str(), &info);
+    const int result =
+        followLinks ? ::stat(realPath.c_str(), &info) : ::lstat(realPath.c_str(), &info);
     return result == 0 ? info.st_mode : mode_t(0);
 }
 

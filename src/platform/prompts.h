@@ -14,7 +14,8 @@ class Prompts {
 public:
     virtual ~Prompts() = default;
 
-    /// Shows a text with an OK. A text may hold CR as a line break: whoever shows it breaks the line.
+    /// Shows a text with an OK. A text may hold CR as a line break: whoever shows it breaks the
+    /// line.
     virtual void Message(const std::string& text, const std::string& title, Icon icon) = 0;
     virtual bool AskYesNo(const std::string& text, const std::string& title) = 0;
     virtual Answer AskYesNoCancel(const std::string& text, const std::string& title) = 0;

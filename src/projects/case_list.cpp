@@ -106,8 +106,8 @@ std::vector<std::string> FillTemplateList() {
 
 std::optional<CaseRow> FindCase(const std::string& name) {
     const auto rows = ReadCases();
-    const auto found = std::find_if(rows.begin(), rows.end(),
-                                    [&](const CaseRow& row) { return EqualNoCase(row.name, name); });
+    const auto found = std::find_if(
+        rows.begin(), rows.end(), [&](const CaseRow& row) { return EqualNoCase(row.name, name); });
     if (found == rows.end()) return std::nullopt;
     return *found;
 }

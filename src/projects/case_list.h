@@ -57,7 +57,8 @@ bool CreateCase(const std::string& typedName, const std::string& title);
 bool CopyCase(const CaseRow& source, const std::string& typedName, const std::string& title);
 
 /// The same copy for the start-up, without any message: `target` becomes equal to the template,
-/// whatever it held before. A case that stands in the list keeps its line. False when a step failed.
+/// whatever it held before. A case that stands in the list keeps its line. False when a step
+/// failed.
 bool CopyCase2(const CaseRow& source, const std::string& target);
 
 /// Ok of `RenCase`.

@@ -71,7 +71,8 @@ std::vector<ProjectRow> ReadProjects() {
     for (const std::string& line : ReadLines(ListPath()).value_or(std::vector<std::string>{})) {
         const std::string_view trimmed = TrimBlanks(line);
         if (trimmed.empty()) continue;
-        rows.push_back({NameOfLine(trimmed), std::string(TrimBlanks(RightOfSeparator(trimmed, "\t")))});
+        rows.push_back(
+            {NameOfLine(trimmed), std::string(TrimBlanks(RightOfSeparator(trimmed, "\t")))});
     }
     return rows;
 }
@@ -141,8 +142,7 @@ bool CreateProject(const std::string& typedName) {
         return RefuseName();
     }
     if (IsSystemFolder(path)) {
-        return Refuse(
-            "Projectpath can not be the same as System-, Local- or Thermal-path");
+        return Refuse("Projectpath can not be the same as System-, Local- or Thermal-path");
     }
     if (Clashes(name, path)) {
         return Refuse("A project with the same name or path already exists");

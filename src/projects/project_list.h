@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
-// `PROJECTS.LIB`, the list of projects in `session.ProjectRoot`: name, TAB, path, in lower case. The
-// functions that a dialog's Ok runs make their checks, show what is wrong and tell whether all is
-// done.
+// `PROJECTS.LIB`, the list of projects in `session.ProjectRoot`: name, TAB, path, in lower case.
+// The functions that a dialog's Ok runs make their checks, show what is wrong and tell whether all
+// is done.
 
 namespace verandis {
 

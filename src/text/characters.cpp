@@ -25,9 +25,10 @@ struct CasePair {
     std::string_view upper;
     std::string_view lower;
 };
-constexpr CasePair kOddPairs[] = {
-    {"\xC5\xA0", "\xC5\xA1"}, {"\xC5\x92", "\xC5\x93"}, {"\xC5\xBD", "\xC5\xBE"},
-    {"\xC5\xB8", "\xC3\xBF"}};
+constexpr CasePair kOddPairs[] = {{"\xC5\xA0", "\xC5\xA1"},
+                                  {"\xC5\x92", "\xC5\x93"},
+                                  {"\xC5\xBD", "\xC5\xBE"},
+                                  {"\xC5\xB8", "\xC3\xBF"}};
 
 bool HasHighBytes(std::string_view text) {
     return std::any_of(text.begin(), text.end(), [](char c) { return (c & 0x80) != 0; });

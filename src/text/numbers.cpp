@@ -20,12 +20,12 @@ bool IsDigit(char c) {
 /// The unsigned decimal number in front of a text: digits with at most one point, then an exponent
 /// when digits follow its sign.
 struct Scan {
-    std::size_t length = 0;        // characters read
-    std::uint64_t mantissa = 0;    // the digits as a whole number, while they fit
-    int digits = 0;                // count of significant digits
-    int decimals = 0;              // digits behind the point
-    int exponent = 0;              // of "E", within -9999 to 9999
-    bool any = false;              // at least one digit
+    std::size_t length = 0;      // characters read
+    std::uint64_t mantissa = 0;  // the digits as a whole number, while they fit
+    int digits = 0;              // count of significant digits
+    int decimals = 0;            // digits behind the point
+    int exponent = 0;            // of "E", within -9999 to 9999
+    bool any = false;            // at least one digit
 };
 
 std::size_t ScanMantissa(std::string_view text, Scan& scan) {
@@ -90,8 +90,8 @@ struct Decimal {
 template <class Number>
 Decimal DecimalOf(Number magnitude, int precision) {
     char text[64];
-    const auto end = std::to_chars(text, text + sizeof text, magnitude, std::chars_format::scientific,
-                                   precision - 1)
+    const auto end = std::to_chars(text, text + sizeof text, magnitude,
+                                   std::chars_format::scientific, precision - 1)
                          .ptr;
     const std::string_view whole(text, static_cast<std::size_t>(end - text));
     const std::size_t mark = whole.find('e');
@@ -243,7 +243,8 @@ bool IsNumberKey(std::string_view text) {
 
 bool IsNumberText(std::string_view text, DecimalMode mode) {
     const char separator = mode == DecimalMode::Comma ? ',' : '.';
-    if (text.size() == 1 && (text[0] == separator || text[0] == '-' || text[0] == '+')) return false;
+    if (text.size() == 1 && (text[0] == separator || text[0] == '-' || text[0] == '+'))
+        return false;
     return std::all_of(text.begin(), text.end(),
                        [&](char c) { return IsDigit(c) || c == separator; });
 }

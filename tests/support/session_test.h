@@ -22,7 +22,8 @@ bool OnDisk(const std::string& path);
 /// Every file below a folder, as relative path and bytes, in order.
 std::vector<std::pair<std::string, std::string>> TreeOf(const std::string& folder);
 
-/// A fresh session with recorded messages, a settings folder and a short temporary folder of its own.
+/// A fresh session with recorded messages, a settings folder and a short temporary folder of its
+/// own.
 class SessionTest : public testing::Test {
 protected:
     SessionTest();

@@ -1,0 +1,108 @@
+#include "platform/spelling.h"
+
+#include <algorithm>
+#include <filesystem>
+
+#include "platform/files.h"
+#include "platform/paths.h"
+#include "support/session_test.h"
+
+namespace verandis {
+namespace {
+
+namespace fs = std::filesystem;
+using Lines = std::vector<std::string>;
+using Spelling = testing_support::SessionTest;
+using testing_support::Bytes;
+using testing_support::OnDisk;
+using testing_support::PutBytes;
+
+TEST_F(Spelling, FindsTheExactNameFirstElseTheFirstOfTheOthers) {
+    PutBytes(Path("Data/UShape1/SITE.INP"), "upper");
+    PutBytes(Path("Data/UShape1/Site.inp"), "mixed");
+    PutBytes(Path("Data/Åre/x"), "north");
+    const std::pair<const char*, const char*> rows[] = {
+        {"data/ushape1/Site.inp", "Data/UShape1/Site.inp"},
+        {"data/ushape1/site.inp", "Data/UShape1/SITE.INP"},
+        {"DATA\\USHAPE1\\SITE.INP", "Data/UShape1/SITE.INP"},
+        {"data/åRE/X", "Data/Åre/x"},
+        {"data/None/Site.inp", "Data/None/Site.inp"},  // missing parts stay as given
+    };
+    for (const auto& [asked, real] : rows) {
+        EXPECT_EQ(TrueSpelling(Path(asked)), Path(real));
+        EXPECT_EQ(TrueSpelling("C:" + Path(asked)), Path(real)) << "a drive means nothing here";
+    }
+    EXPECT_EQ(ReadLines(Path("DATA\\ushape1\\site.INP")), Lines{"upper"});
+    EXPECT_TRUE(FileExists(Path("data/åre/X")));
+    EXPECT_FALSE(FileExists(Path("data/åre")));
+    EXPECT_TRUE(FolderExists(Path("data/åre/")));
+}
+
+TEST_F(Spelling, CreatingMakesNoSecondSpelling) {
+    PutBytes(Path("Data/Case.Lib"), "old");
+    EXPECT_TRUE(WriteLines(Path("data\\CASE.LIB"), {"new"}));
+    EXPECT_TRUE(AppendLine(Path("DATA/case.lib"), "more"));
+    EXPECT_TRUE(CopyFile(Path("data/case.lib"), Path("data/Copy.lib")));
+    EXPECT_TRUE(CopyFile(Path("data/case.lib"), Path("data/COPY.LIB")));
+    EXPECT_TRUE(MakeFolders(Path("DATA/New")));
+    EXPECT_TRUE(MakeFolders(Path("data/NEW/deep")));
+    EXPECT_EQ(Bytes(Path("Data/Case.Lib")), "new\r\nmore\r\n");
+    EXPECT_EQ(ListFolder(Path("Data")), (Lines{"Case.Lib", "Copy.lib", "New"}));
+    EXPECT_TRUE(OnDisk(Path("Data/New/deep")));
+    EXPECT_TRUE(DeleteFile(Path("data/CASE.lib")));
+    EXPECT_FALSE(OnDisk(Path("Data/Case.Lib")));
+}
+
+// Each row is something that another program does between two reads of one path.
+TEST_F(Spelling, RememberedNamesFollowTheDisk) {
+    PutBytes(Path("Slot/a.dat"), "first");
+    const std::string asked = Path("slot/A.DAT");
+    ASSERT_EQ(ReadLines(asked), Lines{"first"});
+    fs::rename(Path("Slot/a.dat"), Path("Slot/A.Dat"));
+    EXPECT_EQ(ReadLines(asked), Lines{"first"}) << "another spelling";
+    fs::rename(Path("Slot"), Path("SLOT"));
+    EXPECT_EQ(ReadLines(asked), Lines{"first"}) << "another spelling of the folder";
+    fs::rename(Path("SLOT/A.Dat"), Path("SLOT/b.dat"));
+    EXPECT_EQ(ReadLines(asked), std::nullopt) << "gone";
+    EXPECT_FALSE(FileExists(asked));
+    fs::rename(Path("SLOT/b.dat"), Path("SLOT/A.daT"));
+    EXPECT_EQ(ReadLines(asked), Lines{"first"}) << "back again";
+    fs::remove_all(Path("SLOT"));
+    EXPECT_FALSE(WriteLines(asked, {"lost"})) << "written into a folder that is gone";
+    ASSERT_TRUE(MakeFolders(Path("slot")));
+    EXPECT_TRUE(WriteLines(asked, {"second"}));
+    EXPECT_EQ(ReadLines(asked), Lines{"second"});
+}
+
+TEST_F(Spelling, ARootIsTakenAsItsOwnerSpeltIt) {
+    PutBytes(Path("Root/PROJECT/x"), "real");
+    PutBytes(Path("root/PROJECT/x"), "another root of nearly that name");
+    SetRootSpelling(Path("Root") + "/");
+    EXPECT_EQ(ReadLines(Path("root/project/X")), Lines{"real"});
+    EXPECT_EQ(ReadLines(Path("root") + "\\project\\x"), Lines{"real"});
+    PutBytes(Path("Rooted/x"), "beside");
+    EXPECT_EQ(TrueSpelling(Path("rooted/X")), Path("Rooted/x"));
+}
+
+TEST(Paths, AreCutAtTheLastSeparatorOfEitherSign) {
+    EXPECT_EQ(JoinPath("/root/", "CLIM"), "/root//CLIM");
+    EXPECT_EQ(FolderOf("C:\\CLIM/a.cli"), "C:\\CLIM");
+    EXPECT_EQ(FolderOf("/root\\CLIM\\a.cli"), "/root\\CLIM");
+    EXPECT_EQ(FolderOf("a.cli"), "");
+    EXPECT_EQ(NameOf("/root\\a.cli"), "a.cli");
+    EXPECT_EQ(NameOf("/root/"), "");
+    EXPECT_EQ(NameOf("a.cli"), "a.cli");
+    EXPECT_EQ(WithoutDrive("c:\\x"), "\\x");
+    EXPECT_EQ(WithoutDrive("/c:/x"), "/c:/x");
+}
+
+TEST(Paths, AFolderOfALongerNameIsNotInside) {
+    EXPECT_TRUE(LiesIn("/Root/PROJECT/x", "/root/project"));
+    EXPECT_TRUE(LiesIn("C:\\root\\project\\", "/root/project"));
+    EXPECT_TRUE(LiesIn("/x", "/"));
+    EXPECT_FALSE(LiesIn("/root/projects", "/root/project"));
+    EXPECT_FALSE(LiesIn("/root", "/root/project"));
+}
+
+}  // namespace
+}  // namespace verandis

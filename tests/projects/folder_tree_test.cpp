@@ -1,0 +1,116 @@
+#include "projects/folder_tree.h"
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <filesystem>
+
+#include "app/session.h"
+#include "support/session_test.h"
+
+namespace verandis {
+namespace {
+
+namespace fs = std::filesystem;
+using testing_support::OnDisk;
+using testing_support::PutBytes;
+using testing_support::TreeOf;
+
+class FolderTree : public testing_support::SessionTest {
+protected:
+    FolderTree() {
+        if (const char* home = std::getenv("HOME")) home_ = home;
+        ::setenv("HOME", Path("home/user").c_str(), 1);
+        session.ProjectRoot = Path("root/PROJECT");
+    }
+    ~FolderTree() override { ::setenv("HOME", home_.c_str(), 1); }
+
+private:
+    std::string home_;
+};
+
+struct Refusal {
+    const char* fault;
+    const char* folder;  // below the test's folder
+};
+const Refusal kRefusals[] = {
+    {"home of the user", "home/user"},
+    {"folder that holds the home", "home"},
+    {"home with a separator", "home/user/"},
+    {"folder of projects", "root/PROJECT"},
+    {"folder of projects in other letters", "root/project"},
+    {"data root", "root"},
+    {"way up from a project", "root/PROJECT/p/.."},
+    {"folder of projects through a link", "alias/PROJECT"},
+};
+
+TEST_F(FolderTree, FoldersThatHoldMoreThanAProjectAreNeverRemoved) {
+    fs::create_directory_symlink(Path("root"), Path("alias"));
+    for (const Refusal& row : kRefusals) {
+        PutBytes(Path("home/user/keep"), "x");
+        PutBytes(Path("root/PROJECT/p/keep"), "x");
+        EXPECT_FALSE(EmptyFolder(Path(row.folder))) << row.fault;
+        EXPECT_FALSE(RemoveTree(Path(row.folder))) << row.fault;
+        EXPECT_TRUE(OnDisk(Path("home/user/keep"))) << row.fault;
+        EXPECT_TRUE(OnDisk(Path("root/PROJECT/p/keep"))) << row.fault;
+    }
+}
+
+// In a child process whose root is a folder of this test, which only the superuser can make.
+TEST_F(FolderTree, RootOfTheMachineIsNeverEmptied) {
+    if (::geteuid() != 0) GTEST_SKIP() << "needs the superuser";
+    PutBytes(Path("jail/keep"), "x");
+    session.ProjectRoot = "";
+    const auto refused = [this] {
+        if (::chroot(Path("jail").c_str()) != 0 || ::chdir("/") != 0) return false;
+        ::unsetenv("HOME");
+        return !RemoveTree("/") && !EmptyFolder("/") && !RemoveTree("") && OnDisk("/keep");
+    };
+    EXPECT_EXIT(std::_Exit(refused() ? 0 : 1), testing::ExitedWithCode(0), "");
+}
+
+TEST_F(FolderTree, RemovingTakesLinksAndLeavesWhatTheyPointAt) {
+    PutBytes(Path("outside/keep"), "x");
+    PutBytes(Path("tree/a/b/c"), "x");
+    PutBytes(Path("tree/.hidden"), "x");
+    fs::create_directory_symlink(Path("outside"), Path("tree/a/link"));
+    fs::create_symlink(Path("nowhere"), Path("tree/broken"));
+    fs::create_directory_symlink(Path("outside"), Path("link"));
+    EXPECT_FALSE(RemoveTree(Path("missing")));
+    EXPECT_TRUE(RemoveTree(Path("tree")));
+    EXPECT_FALSE(OnDisk(Path("tree")));
+    EXPECT_FALSE(EmptyFolder(Path("link")));
+    RemoveTree(Path("link/"));
+    EXPECT_TRUE(OnDisk(Path("outside/keep"))) << "a link was followed";
+}
+
+TEST_F(FolderTree, CopyHoldsEveryFileOnceWhateverItsName) {
+    PutBytes(Path("från/Åtta b/c#1&2"), std::string("\0\r\n\xE5", 4));
+    PutBytes(Path("från/noext"), "");
+    PutBytes(Path("från/SITE.INP"), "new");
+    fs::create_directories(Path("från/empty"));
+    fs::create_directory_symlink(Path("från"), Path("från/loop"));
+    PutBytes(Path("to/Site.inp"), "old");
+    ASSERT_TRUE(CopyTree(Path("från"), Path("to")));
+    const std::vector<std::pair<std::string, std::string>> wanted = {
+        {"Site.inp", "new"}, {"noext", ""}, {"Åtta b/c#1&2", std::string("\0\r\n\xE5", 4)}};
+    EXPECT_EQ(TreeOf(Path("to")), wanted);
+    EXPECT_TRUE(OnDisk(Path("to/empty")));
+    EXPECT_FALSE(OnDisk(Path("to/loop")));
+}
+
+TEST_F(FolderTree, CopyThatCannotBeIsToldAndStops) {
+    PutBytes(Path("from/a"), "x");
+    PutBytes(Path("file"), "x");
+    fs::create_directories(Path("to/a"));  // a folder where a file should be
+    EXPECT_FALSE(CopyTree(Path("from"), Path("from/inner")));
+    EXPECT_FALSE(CopyTree(Path("from"), Path("FROM")));
+    EXPECT_FALSE(CopyTree(Path("missing"), Path("made")));
+    EXPECT_FALSE(CopyTree(Path("from"), Path("file/below")));
+    EXPECT_FALSE(CopyTree(Path("from"), Path("to")));
+    EXPECT_FALSE(OnDisk(Path("from/inner")) || OnDisk(Path("made")));
+}
+
+}  // namespace
+}  // namespace verandis
