@@ -89,7 +89,7 @@ MonthMeans MeansOfMonth(const std::vector<double>& hours, int month) {
         means.dailyMaximum += *high;
         for (auto each = day; each != day + 24; ++each) means.mean += *each / 24;
     }
-    const double days = (span.end - span.first) / 24;
+    const double days = (span.end - span.first) / 24.0;
     return {means.mean / days, means.dailyMinimum / days, means.dailyMaximum / days};
 }
 

@@ -2,12 +2,11 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <functional>
 
+#include "app/data_root.h"
 #include "app/session.h"
 #include "app/settings.h"
 #include "case/property_file.h"
-#include "case/shapes.h"
 #include "case/site_file.h"
 #include "platform/encoding.h"
 #include "platform/files.h"
@@ -19,13 +18,46 @@ namespace verandis {
 namespace {
 
 namespace fs = std::filesystem;
+using Lines = std::vector<std::string>;
+using DataRoot = testing_support::SessionTest;
 using testing_support::Bytes;
 using testing_support::OnDisk;
 using testing_support::PutBytes;
 using testing_support::TreeOf;
 
+TEST_F(DataRoot, IsTheDeliveredTreeAndOneProjectLineAndNeverMadeOverAnother) {
+    const std::string root = Path("New/Root");
+    ASSERT_EQ(MakeDataRoot(root), "");
+    EXPECT_EQ(Bytes(root + "/PROJECT/PROJECTS.LIB"),
+              "verandis\t" + LowerCase(root) + "/project/verandis\r\n");
+    for (const char* folder : {"/CLIM", "/MWTHARM", "/PROJECT/verandis", "/WTHARM"}) {
+        EXPECT_TRUE(TreeOf(root + folder) == TreeOf(DeliveredFolder() + folder)) << folder;
+    }
+    PutBytes(root + "/PROJECT/verandis/CASES.LIB", "mine");
+    EXPECT_NE(MakeDataRoot(root), "");
+    EXPECT_EQ(Bytes(root + "/PROJECT/verandis/CASES.LIB"), "mine");
+}
+
+TEST_F(DataRoot, TellsWhyItCannotBeMadeAndCanBeTriedAgain) {
+    PutBytes(Path("Half/CLIM"), "a file where a folder should be");
+    for (const char* folder : {"Half/CLIM/below", "a b", "Half"}) {
+        EXPECT_NE(MakeDataRoot(Path(folder)), "") << folder;
+        EXPECT_FALSE(IsDataRoot(Path(folder))) << folder;
+    }
+    EXPECT_FALSE(OnDisk(Path("a b")));
+    fs::remove(Path("Half/CLIM"));
+    EXPECT_EQ(MakeDataRoot(Path("Half")), "");
+}
+
 class Start : public testing_support::DeliveredRootTest {
 protected:
+    /// One climate in letters that a search without regard to case has to sort first.
+    Start() {
+        fs::remove_all(root + "/CLIM");
+        PutBytes(root + "/CLIM/BERLIN_1D.cli", "");
+        PutBytes(root + "/CLIM/aaa_1D.CLI", "");
+    }
+
     std::string In(const Slot& slot, const std::string& file) const {
         return project + "/" + SlotFolderName(slot) + "/" + file;
     }
@@ -35,22 +67,14 @@ protected:
         session = {};
         return ReadSystemSettings() && StartSession();
     }
-
-    /// Names of the files that are not the same in both trees.
-    using Tree = std::vector<std::pair<std::string, std::string>>;
-    static std::vector<std::string> Differences(const Tree& a, const Tree& b) {
-        Tree differing;
-        std::set_symmetric_difference(a.begin(), a.end(), b.begin(), b.end(),
-                                      std::back_inserter(differing));
-        std::vector<std::string> names;
-        for (const auto& file : differing) names.push_back(file.first);
-        return names;
-    }
 };
 
 TEST_F(Start, LeavesTheSameTreesWhateverASessionDid) {
+    const std::string cases = Bytes(project + "/CASES.LIB") + "USHAPE2 - V\xE5r titel\r\n";
+    PutBytes(project + "/CASES.LIB", cases);
     ASSERT_TRUE(StartSession());
-    EXPECT_EQ(prompts.Texts(), std::vector<std::string>{});
+    EXPECT_TRUE(Bytes(project + "/CASES.LIB").starts_with(cases)) << "a slot keeps its line";
+    EXPECT_EQ(ReadLines(project + "/CASES.LIB")->size(), 4u + 16u);
     const auto before = TreeOf(root);
     for (const Slot& slot : AllSlots()) {
         ActivateSlot(slot.caseNo, slot.shape, "");
@@ -63,123 +87,90 @@ TEST_F(Start, LeavesTheSameTreesWhateverASessionDid) {
     fs::remove_all(project + "/IShape1");
     fs::remove(In({kShapeO, 4}, "SimpPropertiesOfCase.Dat"));
     ASSERT_TRUE(Again());
-    EXPECT_EQ(Differences(before, TreeOf(root)), std::vector<std::string>{});
+    const auto after = TreeOf(root);
+    std::vector<std::pair<std::string, std::string>> differing;
+    std::set_symmetric_difference(before.begin(), before.end(), after.begin(), after.end(),
+                                  std::back_inserter(differing));
+    for (const auto& [name, bytes] : differing) ADD_FAILURE() << name;
+    EXPECT_EQ(prompts.Texts(), Lines{});
 }
 
 TEST_F(Start, FillsEverySlotFromItsTemplate) {
-    PutBytes(root + "/CLIM/aaa_1D.CLI", "first by name, in whatever letter case");
     ASSERT_TRUE(StartSession());
     for (const Slot& slot : AllSlots()) {
         SCOPED_TRACE(SlotLabel(slot));
         const std::string family = project + "/" + std::string(WordsOf(slot.shape).folder);
         EXPECT_EQ(Bytes(In(slot, "SimpPropertiesOfCase.Dat")),
                   Bytes(family + "/SimpPropertiesOfCase" + SlotLabel(slot) + ".Dat"));
-        const auto site = ReadLines(In(slot, "SITE.inp"));
-        ASSERT_TRUE(site && site->size() > 4);
-        EXPECT_EQ((*site)[4], root + "/CLIM/aaa_1D.CLI");
-        const auto files = ListFolder(project + "/" + SlotFolderName(slot));
-        EXPECT_EQ(files, ListFolder(project + "/" + SlotFolderName({slot.shape, 1})));
-        EXPECT_EQ(files.size(), 8u) << "seven model files, the properties, no templates";
         EXPECT_EQ(Bytes(In(slot, "SURFACE.inp")), Bytes(family + "/SURFACE.inp"));
+        EXPECT_EQ(SiteClimate(In(slot, "")), root + "/CLIM/aaa_1D.CLI") << "in its true spelling";
         EXPECT_EQ(SiteClimate(family), "YYY\\CLIM\\ZZZ") << "a template stays one";
+        EXPECT_EQ(ListFolder(In(slot, "")).size(), 8u)
+            << "model files and properties, no templates";
     }
-    EXPECT_EQ(ReadLines(project + "/CASES.LIB")->size(), 20u);
 }
 
 TEST_F(Start, OpensTheFirstSlotOfShapeV) {
     session.ElementKindMark = 2;
-    session.ShowGuide = kOn;
     ASSERT_TRUE(StartSession());
     EXPECT_EQ(session.ActiveShape, kShapeV);
     EXPECT_EQ(session.ActiveCaseNo, 1);
     EXPECT_EQ(session.CaseName, "vshape1");
     EXPECT_EQ(session.ElementKindMark, 0);
-    EXPECT_EQ(session.ShowGuide, kOff);
     EXPECT_EQ(session.ShowDiagrams, kOn);
     const MenuState menus = StartUp();
     EXPECT_TRUE(menus.projectCommands && menus.projectDependent && menus.caseCommands);
     EXPECT_FALSE(menus.modelCommands);
     fs::remove(root + "/PROJECT/PROJECTS.LIB");
-    session.ProjectName.clear();
-    session.CaseName.clear();
+    session.ProjectName = session.CaseName = "";
     const MenuState none = StartUp();
     EXPECT_FALSE(none.projectCommands || none.projectDependent || none.caseCommands);
 }
 
-TEST_F(Start, KeepsTheListsLinesOfSlotsThatStandThere) {
-    PutBytes(project + "/CASES.LIB", Bytes(project + "/CASES.LIB") +
-                                         "USHAPE2 - V\xE5r egen titel\r\nmine - Another case\r\n");
-    ASSERT_TRUE(StartSession());
-    const auto lines = ReadLines(project + "/CASES.LIB");
-    EXPECT_EQ(std::count(lines->begin(), lines->end(), "USHAPE2 - Vår egen titel"), 1);
-    EXPECT_EQ(lines->size(), 21u);
-}
-
-// Each row breaks one thing before the first start, which has to reach its end all the same.
+// Each row is something that is missing at the first start, which reaches its end all the same.
 TEST_F(Start, GoesOnWithoutWhatIsMissing) {
     struct Row {
-        const char* fault;
-        std::function<void()> damage;
+        std::string missing;
         bool started;
-        Slot whole;  // a slot that is filled all the same
-        std::vector<std::string> messages;
+        const char* whole;  // below the project
+        Lines messages;
     };
-    const auto remove = [&](const std::string& path) { return [=] { fs::remove_all(path); }; };
-    const Slot o1 = {kShapeO, 1};
-    const Row rows[] = {
-        {"a template case", remove(project + "/VShape"), true, o1, {}},
-        {"a template file",
-         remove(project + "/UShape/SimpPropertiesOfCaseU2.Dat"),
-         true,
-         {1, 3},
-         {}},
-        {"the model files", remove(project + "/DynamicFilesUOVI.dat"), true, o1, {"No File exist"}},
-        {"the climate folder", remove(root + "/CLIM"), true, o1, {}},
-        {"the catalogue", remove(root + "/MWTHARM"), true, o1, {}},
-        {"the case list", remove(project + "/CASES.LIB"), false, {}, {}},
-        {"the project list", remove(root + "/PROJECT/PROJECTS.LIB"), false, {}, {}},
-    };
-    const std::string spare = Path("Spare");
-    fs::copy(root, spare, fs::copy_options::recursive);
+    const Row rows[] = {{"PROJECT/verandis/VShape", true, "OShape1/SimpPropertiesOfCase.Dat", {}},
+                        {"PROJECT/verandis/UShape/SimpPropertiesOfCaseU2.Dat",
+                         true,
+                         "UShape3/SimpPropertiesOfCase.Dat",
+                         {}},
+                        {"PROJECT/verandis/DynamicFilesUOVI.dat",
+                         true,
+                         "OShape1/SimpPropertiesOfCase.Dat",
+                         {"No File exist"}},
+                        {"CLIM", true, "UShape1/SITE.inp", {}},
+                        {"MWTHARM", true, "UShape1/SITE.inp", {}},
+                        {"PROJECT/verandis/CASES.LIB", false, "UShape/SITE.inp", {}},
+                        {"PROJECT/PROJECTS.LIB", false, "SimpWalls.lib", {}}};
+    fs::copy(root, Path("Spare"), fs::copy_options::recursive);
     for (const Row& row : rows) {
-        SCOPED_TRACE(row.fault);
+        SCOPED_TRACE(row.missing);
         fs::remove_all(root);
-        fs::copy(spare, root, fs::copy_options::recursive);
+        fs::copy(Path("Spare"), root, fs::copy_options::recursive);
+        fs::remove_all(root + "/" + row.missing);
         prompts.shown.clear();
-        row.damage();
         EXPECT_EQ(Again(), row.started);
         EXPECT_EQ(prompts.Texts(), row.messages);
-        if (row.whole.shape == 0) continue;
-        EXPECT_TRUE(OnDisk(In(row.whole, "SimpPropertiesOfCase.Dat")));
+        EXPECT_TRUE(OnDisk(project + "/" + row.whole));
     }
 }
 
-TEST_F(Start, ARootThatASiteFileCannotNameLeavesTheTokens) {
+TEST_F(Start, InAMovedRootMendsTheProjectLineAndLeavesAPathWithBlanksOutOfTheSiteFiles) {
     const std::string moved = Path("Ro ot åäö #&");
     fs::rename(root, moved);
     UseSystemPath(moved);
     ASSERT_TRUE(StartSession());
-    EXPECT_EQ(SiteClimate(moved + "/PROJECT/verandis/UShape1"), "YYY\\CLIM\\ZZZ");
-    EXPECT_TRUE(OnDisk(moved + "/PROJECT/verandis/IShape4/SimpPropertiesOfCase.Dat"));
+    const std::string home = moved + "/PROJECT/verandis";
     EXPECT_EQ(Bytes(moved + "/PROJECT/PROJECTS.LIB"),
-              ToWindows1252(LowerCase("verandis\t" + moved + "/project/verandis\r\n")))
-        << "the line follows the moved root";
-}
-
-TEST_F(Start, AProjectLineElsewhereIsNotMended) {
-    fs::create_directories(Path("Other"));
-    fs::copy(project, Path("Other"), fs::copy_options::recursive);
-    PutBytes(root + "/PROJECT/PROJECTS.LIB", "first\t/x\r\nVerandis\t" + Path("Other") + "\r\n");
-    const std::string before = Bytes(root + "/PROJECT/PROJECTS.LIB");
-    ASSERT_TRUE(StartSession());
-    EXPECT_EQ(Bytes(root + "/PROJECT/PROJECTS.LIB"), before);
-    EXPECT_TRUE(OnDisk(Path("Other/UShape1/SimpPropertiesOfCase.Dat")));
-}
-
-TEST_F(Start, TheExportIsOfferedOnlyWithASimulatorsSettings) {
-    EXPECT_EQ(SimulatorSystemPath(), "");
-    PutBytes(Path("config/THARM.ini"), "[Tharm]\nSystemPath=" + std::string(70, 'x'));
-    EXPECT_EQ(SimulatorSystemPath(), std::string(63, 'x'));
+              ToWindows1252("verandis\t" + LowerCase(home) + "\r\n"));
+    EXPECT_EQ(SiteClimate(home + "/UShape1"), "YYY\\CLIM\\ZZZ");
+    EXPECT_TRUE(OnDisk(home + "/IShape4/SimpPropertiesOfCase.Dat"));
 }
 
 }  // namespace

@@ -373,7 +373,8 @@ TEST(EpwFiles, NoNoiseStopsTheReader) {
 
 class EpwCommand : public testing::Test {
 protected:
-    const std::string folder_ = testing::TempDir() + "vc_epw";
+    const std::string folder_ =
+        testing::TempDir() + "vc_" + testing::UnitTest::GetInstance()->current_test_info()->name();
     const std::string file_ = JoinPath(folder_, "w.epw");
     std::ostringstream out_;
     std::ostringstream err_;

@@ -208,7 +208,8 @@ TEST(SyntheticYears, PolarNightMayHoldSomeTwilight) {
 
 class NormalsCommand : public testing::Test {
 protected:
-    const std::string folder_ = testing::TempDir() + "vc å #1";
+    const std::string folder_ = testing::TempDir() + "vc å #" +
+                                testing::UnitTest::GetInstance()->current_test_info()->name();
     std::ostringstream out_;
     std::ostringstream err_;
 

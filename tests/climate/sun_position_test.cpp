@@ -112,12 +112,6 @@ TEST(SunPosition, EquationOfTimeHasItsSignAndSize) {
     }
 }
 
-TEST(SunPosition, DistanceMakesJanuaryStronger) {
-    const ClimateSite site{"", 0, 0, 0};
-    EXPECT_NEAR(SunOfHour(site, DayOf(1, 4) * 24 + 12).extraterrestrial, 1367 * 1.0344, 2);
-    EXPECT_NEAR(SunOfHour(site, DayOf(7, 4) * 24 + 12).extraterrestrial, 1367 * 0.9674, 2);
-}
-
 // The sun of hour index h is that of clock h + 0.5, not of h or h + 1.
 TEST(SunHours, StandInTheMiddleOfTheHour) {
     const ClimateSite site{"", 45, 0, 0};

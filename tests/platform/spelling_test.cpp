@@ -1,6 +1,5 @@
 #include "platform/spelling.h"
 
-#include <algorithm>
 #include <filesystem>
 
 #include "platform/files.h"
@@ -14,31 +13,26 @@ namespace fs = std::filesystem;
 using Lines = std::vector<std::string>;
 using Spelling = testing_support::SessionTest;
 using testing_support::Bytes;
-using testing_support::OnDisk;
 using testing_support::PutBytes;
 
-TEST_F(Spelling, FindsTheExactNameFirstElseTheFirstOfTheOthers) {
+TEST_F(Spelling, IsTheExactNameElseTheFirstOfTheOthers) {
     PutBytes(Path("Data/UShape1/SITE.INP"), "upper");
     PutBytes(Path("Data/UShape1/Site.inp"), "mixed");
     PutBytes(Path("Data/Åre/x"), "north");
     const std::pair<const char*, const char*> rows[] = {
         {"data/ushape1/Site.inp", "Data/UShape1/Site.inp"},
-        {"data/ushape1/site.inp", "Data/UShape1/SITE.INP"},
-        {"DATA\\USHAPE1\\SITE.INP", "Data/UShape1/SITE.INP"},
+        {"DATA\\ushape1\\site.inp", "Data/UShape1/SITE.INP"},
         {"data/åRE/X", "Data/Åre/x"},
-        {"data/None/Site.inp", "Data/None/Site.inp"},  // missing parts stay as given
-    };
+        {"data/None/Site.inp", "Data/None/Site.inp"}};  // missing parts stay as given
     for (const auto& [asked, real] : rows) {
         EXPECT_EQ(TrueSpelling(Path(asked)), Path(real));
         EXPECT_EQ(TrueSpelling("C:" + Path(asked)), Path(real)) << "a drive means nothing here";
     }
     EXPECT_EQ(ReadLines(Path("DATA\\ushape1\\site.INP")), Lines{"upper"});
-    EXPECT_TRUE(FileExists(Path("data/åre/X")));
-    EXPECT_FALSE(FileExists(Path("data/åre")));
-    EXPECT_TRUE(FolderExists(Path("data/åre/")));
+    EXPECT_TRUE(FolderExists(Path("data/åre/")) && !FileExists(Path("data/åre")));
 }
 
-TEST_F(Spelling, CreatingMakesNoSecondSpelling) {
+TEST_F(Spelling, IsNeverDoubledByCreating) {
     PutBytes(Path("Data/Case.Lib"), "old");
     EXPECT_TRUE(WriteLines(Path("data\\CASE.LIB"), {"new"}));
     EXPECT_TRUE(AppendLine(Path("DATA/case.lib"), "more"));
@@ -48,13 +42,11 @@ TEST_F(Spelling, CreatingMakesNoSecondSpelling) {
     EXPECT_TRUE(MakeFolders(Path("data/NEW/deep")));
     EXPECT_EQ(Bytes(Path("Data/Case.Lib")), "new\r\nmore\r\n");
     EXPECT_EQ(ListFolder(Path("Data")), (Lines{"Case.Lib", "Copy.lib", "New"}));
-    EXPECT_TRUE(OnDisk(Path("Data/New/deep")));
     EXPECT_TRUE(DeleteFile(Path("data/CASE.lib")));
-    EXPECT_FALSE(OnDisk(Path("Data/Case.Lib")));
+    EXPECT_FALSE(FileExists(Path("Data/Case.Lib")));
 }
 
-// Each row is something that another program does between two reads of one path.
-TEST_F(Spelling, RememberedNamesFollowTheDisk) {
+TEST_F(Spelling, ThatIsRememberedFollowsWhatOtherProgramsDo) {
     PutBytes(Path("Slot/a.dat"), "first");
     const std::string asked = Path("slot/A.DAT");
     ASSERT_EQ(ReadLines(asked), Lines{"first"});
@@ -68,30 +60,25 @@ TEST_F(Spelling, RememberedNamesFollowTheDisk) {
     fs::rename(Path("SLOT/b.dat"), Path("SLOT/A.daT"));
     EXPECT_EQ(ReadLines(asked), Lines{"first"}) << "back again";
     fs::remove_all(Path("SLOT"));
-    EXPECT_FALSE(WriteLines(asked, {"lost"})) << "written into a folder that is gone";
-    ASSERT_TRUE(MakeFolders(Path("slot")));
-    EXPECT_TRUE(WriteLines(asked, {"second"}));
+    EXPECT_FALSE(WriteLines(asked, {"lost"})) << "the folder is gone";
+    EXPECT_TRUE(MakeFolders(Path("slot")) && WriteLines(asked, {"second"}));
     EXPECT_EQ(ReadLines(asked), Lines{"second"});
 }
 
-TEST_F(Spelling, ARootIsTakenAsItsOwnerSpeltIt) {
+TEST_F(Spelling, OfTheRootIsItsOwners) {
     PutBytes(Path("Root/PROJECT/x"), "real");
     PutBytes(Path("root/PROJECT/x"), "another root of nearly that name");
-    SetRootSpelling(Path("Root") + "/");
-    EXPECT_EQ(ReadLines(Path("root/project/X")), Lines{"real"});
-    EXPECT_EQ(ReadLines(Path("root") + "\\project\\x"), Lines{"real"});
     PutBytes(Path("Rooted/x"), "beside");
+    SetRootSpelling(Path("Root") + "/");
+    EXPECT_EQ(ReadLines(Path("root") + "\\project\\X"), Lines{"real"});
     EXPECT_EQ(TrueSpelling(Path("rooted/X")), Path("Rooted/x"));
 }
 
 TEST(Paths, AreCutAtTheLastSeparatorOfEitherSign) {
     EXPECT_EQ(JoinPath("/root/", "CLIM"), "/root//CLIM");
     EXPECT_EQ(FolderOf("C:\\CLIM/a.cli"), "C:\\CLIM");
-    EXPECT_EQ(FolderOf("/root\\CLIM\\a.cli"), "/root\\CLIM");
     EXPECT_EQ(FolderOf("a.cli"), "");
     EXPECT_EQ(NameOf("/root\\a.cli"), "a.cli");
-    EXPECT_EQ(NameOf("/root/"), "");
-    EXPECT_EQ(NameOf("a.cli"), "a.cli");
     EXPECT_EQ(WithoutDrive("c:\\x"), "\\x");
     EXPECT_EQ(WithoutDrive("/c:/x"), "/c:/x");
 }
