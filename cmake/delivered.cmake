@@ -7,7 +7,7 @@ file(GLOB normals CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/data/normals/*.txt)
 
 set(make_climates)
 foreach(table IN LISTS normals)
-    list(APPEND make_climates COMMAND verandis-climate normals ${table} ${delivered}/CLIM)
+    list(APPEND make_climates COMMAND verandis-climate normals ${table} ${delivered}/CLIM --quiet)
 endforeach()
 
 add_custom_command(

@@ -28,13 +28,14 @@ constexpr const char* kHelp =
 radiation on tilted planes, and BASED.cli with the hours of the year.
 
 Usage:
-  verandis-climate normals FILE OUTDIR [--sky perez|isotropic]
-  verandis-climate epw FILE.epw BASE OUTDIR [--sky perez|isotropic]
+  verandis-climate normals FILE OUTDIR [--sky perez|isotropic] [--quiet]
+  verandis-climate epw FILE.epw BASE OUTDIR [--sky perez|isotropic] [--quiet]
   verandis-climate --help
 
   normals   makes a synthetic year from a text table of monthly normals
   epw       takes the hours of an EPW weather file
   --sky     how light spreads over the sky: perez (default) or isotropic
+  --quiet   shows no table of months
 
 BASE is at most 11 characters, upper case, with a "_": STOCKHOLM_1.
 Exit code: 0 done, 1 wrong use, 2 the input cannot be used or a file cannot be written.
@@ -44,6 +45,7 @@ struct Request {
     std::vector<std::string> words;  // command and its arguments, without options
     SkyModel sky = SkyModel::Perez;
     bool help = false;
+    bool quiet = false;
     std::string complaint;
 };
 
@@ -60,6 +62,8 @@ Request ParseRequest(const std::vector<std::string>& args) {
         const std::string& word = args[at];
         if (word == "--help" || word == "-h") {
             request.help = true;
+        } else if (word == "--quiet") {
+            request.quiet = true;
         } else if (word == skyOption || word.starts_with(skyOption + "=")) {
             std::string name = word.substr(std::min(word.size(), skyOption.size() + 1));
             if (word == skyOption && ++at < args.size()) name = args[at];
@@ -131,15 +135,20 @@ private:
     int ShowAndWrite(WeatherYear weather, const std::vector<SunHour>& sun, const std::string& base,
                      const std::string& folder, const std::vector<ClimateDoubt>& doubts) {
         const ClimateYear year = SummarizeYear(std::move(weather), sun, request_.sky);
-        out_ << year.weather.site.place << "\n";
-        for (const std::string& line : MonthTable(year.months)) out_ << line << "\n";
+        if (!request_.quiet) ShowMonths(year);
         ShowDoubts(doubts);
         const std::string failed = WriteClimatePair(year, base, folder);
         if (!failed.empty()) return Refuse(failed + ": cannot be written");
+        if (request_.quiet) return kDone;
         for (const char* end : {"S.dat", "D.cli"}) {
             out_ << "Written: " << TrueSpelling(JoinPath(folder, base + end)) << "\n";
         }
         return kDone;
+    }
+
+    void ShowMonths(const ClimateYear& year) {
+        out_ << year.weather.site.place << "\n";
+        for (const std::string& line : MonthTable(year.months)) out_ << line << "\n";
     }
 
     void ShowDoubts(const std::vector<ClimateDoubt>& doubts) {
