@@ -3,6 +3,7 @@
 #include <string>
 
 #include "app/program_text.h"
+#include "app/session.h"
 #include "case/property_file.h"
 #include "platform/prompts.h"
 #include "text/characters.h"
@@ -21,6 +22,7 @@ std::string NotePrompt() {
 }  // namespace
 
 bool EditCaseNote() {
+    session.ElementKindMark = 0;  // a note is neither a window nor a wall
     std::string note;
     GetCaseProperty("CASE", "NOTE", note);
     if (note == kNotSet) note.clear();

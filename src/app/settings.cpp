@@ -1,11 +1,13 @@
 #include "app/settings.h"
 
 #include <array>
+#include <cstdint>
 #include <optional>
 #include <string_view>
 
 #include "app/session.h"
 #include "platform/encoding.h"
+#include "platform/files.h"
 #include "platform/paths.h"
 #include "platform/profile.h"
 #include "platform/regional.h"
@@ -20,6 +22,7 @@ constexpr const char* kFile = "Verandis.INI";
 constexpr const char* kSection = "Verandis";
 constexpr std::size_t kLongestValue = 63;
 constexpr int kDefaultLanguage = 2;
+constexpr const char* kDefaultAccuracy = "2";
 
 struct SettingsKey {
     const char* name;
@@ -31,7 +34,7 @@ struct SettingsKey {
 constexpr std::array<SettingsKey, 5> kKeys = {{
     {"SystemPath", &Settings::SystemPath, ""},
     {"LocalPath", &Settings::LocalPath, ""},
-    {"AccuracyLevelTL", &Settings::AccuracyLevelTL, "2"},
+    {"AccuracyLevelTL", &Settings::AccuracyLevelTL, kDefaultAccuracy},
     {"Language", &Settings::Language, "2"},
     {"Regional", &Settings::Regional, ""},
 }};
@@ -56,7 +59,9 @@ std::optional<Refusal> Refused(const std::string& path) {
 
 int LanguageOf(const std::string& value) {
     if (TrimBlanks(value).empty()) return kDefaultLanguage;
-    return WholeNumber(ToNumber(value));
+    const int language = WholeNumber(ToNumber(value));
+    const bool fits = language >= INT16_MIN && language <= INT16_MAX;
+    return fits ? language : kDefaultLanguage;
 }
 
 }  // namespace
@@ -70,7 +75,10 @@ Settings StoredSettings() {
     return settings;
 }
 
-void UseSystemPath(const std::string& path) {
+void UseSystemPath(const std::string& value) {
+    // The current folder changes with the project, so a path relative to it would wander.
+    const std::string given = WithMachineSeparators(value);
+    const std::string path = WithoutDrive(given).starts_with('/') ? given : AbsolutePath(given);
     session.SystemFolder = path;
     session.SimulatorFolder = JoinPath(path, "MWTHARM");
     session.StageFolder = JoinPath(path, "WTHARM");
@@ -80,10 +88,11 @@ void UseSystemPath(const std::string& path) {
 
 bool ReadSystemSettings() {
     const Settings settings = StoredSettings();
-    session.AccuracyLevelTL = settings.AccuracyLevelTL;
+    const bool found = !settings.SystemPath.empty();
+    session.AccuracyLevelTL = found ? settings.AccuracyLevelTL : kDefaultAccuracy;
     session.Language = LanguageOf(settings.Language);
     session.Decimals = MachineWritesDecimalComma() ? DecimalMode::Comma : DecimalMode::Point;
-    if (settings.SystemPath.empty()) return false;
+    if (!found) return false;
     UseSystemPath(settings.SystemPath);
     session.ProjectRootAtStart = session.ProjectRoot;
     return true;

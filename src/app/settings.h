@@ -26,8 +26,9 @@ Settings StoredSettings();
 /// written.
 bool WriteSystemSettings(const Settings& settings);
 
-/// Sets `SystemFolder` and the folders derived from it.
-void UseSystemPath(const std::string& path);
+/// Sets `SystemFolder` and the folders derived from it; a relative path is taken from the current
+/// folder as it is now.
+void UseSystemPath(const std::string& value);
 
 /// Number of the catalogue text that tells why this folder cannot hold the data (empty, a blank, a
 /// sign outside ASCII, too long), 0 when it can.

@@ -5,6 +5,7 @@
 
 #include "app/program_text.h"
 #include "app/session.h"
+#include "app/slot_selection.h"
 #include "case/property_file.h"
 #include "case/shapes.h"
 #include "case/site_file.h"
@@ -15,7 +16,6 @@
 #include "projects/case_list.h"
 #include "projects/list_file.h"
 #include "projects/project_list.h"
-#include "projects/slot_activation.h"
 #include "text/characters.h"
 #include "text/separators.h"
 
@@ -49,12 +49,11 @@ void NameClimateOfThisMachine() {
 
 bool CopyTemplate(int shape) {
     const auto source = FindCase(std::string(WordsOf(shape).word));
-    if (!source || !CopyCase2(*source, SlotFolderName({shape, 1}))) return false;
+    bool all = source && CopyCase2(*source, SlotFolderName({shape, 1}));
     const auto first = FindCase(SlotCaseName({shape, 1}));
     if (!first) return false;
     OpenCase(*first);
     NameClimateOfThisMachine();
-    bool all = true;
     for (int number = 2; number <= kCasesPerShape; ++number) {
         all = CopyCase2(*first, SlotFolderName({shape, number})) && all;
     }
@@ -77,6 +76,8 @@ MenuState StartUp() {
     MenuState menus;
     menus.projectCommands = FileExists(JoinPath(session.ProjectRoot, kProjectListName));
     menus.projectDependent = !session.ProjectName.empty();
+    menus.caseDependent =
+        menus.projectDependent && FileExists(JoinPath(session.ProjectFolder, kCaseListName));
     menus.caseCommands = !session.CaseName.empty();
     return menus;
 }
@@ -99,9 +100,7 @@ bool RebuildSlots() {
     for (const int shape : kCopyOrder) any = CopyTemplate(shape) || any;
     for (int shape = 1; shape <= kShapeCount; ++shape) RemoveSlotTemplates(shape);
     for (int shape = 1; shape <= kShapeCount; ++shape) InstallSlotFiles(shape);
-    session.ActiveShape = kShapeV;
-    session.ActiveCaseNo = 1;
-    ActivateSlot(1, kShapeV, "");
+    SelectFamily(kShapeV);
     return any;
 }
 

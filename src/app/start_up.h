@@ -12,6 +12,7 @@ struct MenuState {
     bool projectCommands = false;  // M_OpenProject, M_CopyProject, M_DeleteProject, M_RenameProject
     bool newProject = true;
     bool projectDependent = false;  // M_ThermalLoads, M_Result
+    bool caseDependent = false;     // commands that need a list of cases
     bool caseCommands = false;      // M_Case
     bool modelCommands = false;  // M_Library, M_MOdel, M_Output: disabled with a case and without
 };

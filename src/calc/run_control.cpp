@@ -199,6 +199,7 @@ RunOutcome CheckMarks(RunDisplay& display, RunOutcome outcome) {
 }
 
 void ClearAfterRunError(RunDisplay& display) {
+    session.ElementKindMark = 0;
     display.AllowCancel(false);
     session.StopCalculation = kOff;
     CurrentProgress().SetValue(0);

@@ -93,4 +93,8 @@ std::string ToWindows1252(std::string_view text) {
     return bytes;
 }
 
+bool SurvivesCodePage(std::string_view text) {
+    return FromWindows1252(ToWindows1252(text)) == text;
+}
+
 }  // namespace verandis

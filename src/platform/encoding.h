@@ -17,6 +17,9 @@ std::string ToWindows1252(std::string_view text);
 /// again.
 void LowerWindows1252(std::string_view bytes, std::string& lower);
 
+/// True when the text comes back from Windows-1252 as it went in.
+bool SurvivesCodePage(std::string_view text);
+
 /// True when every byte is ASCII, so that both encodings are the same.
 bool IsAscii(std::string_view text);
 

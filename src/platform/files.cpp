@@ -148,7 +148,9 @@ bool WriteUtf8Lines(const std::string& path, const std::vector<std::string>& lin
 }
 
 bool AppendLine(const std::string& path, const std::string& line) {
-    return WriteWith(path, ToWindows1252(line + "\r\n"), O_APPEND);
+    const auto bytes = ReadBytes(path);
+    const bool openEnd = bytes && !bytes->empty() && !bytes->ends_with('\n');
+    return WriteWith(path, ToWindows1252((openEnd ? "\r\n" : "") + line + "\r\n"), O_APPEND);
 }
 
 bool FileExists(const std::string& path) {
@@ -162,11 +164,6 @@ bool FileExists(const std::string& path) {
 
 bool FolderExists(const std::string& path) {
     return S_ISDIR(ModeOf(FindSpelling(path), true));
-}
-
-bool FolderWritable(const std::string& path) {
-    const std::string found = FindSpelling(path);
-    return S_ISDIR(ModeOf(found, true)) && ::access(found.c_str(), W_OK | X_OK) == 0;
 }
 
 std::vector<std::string> ListFolder(const std::string& folder) {
@@ -242,6 +239,14 @@ std::string AbsolutePath(const std::string& path) {
     std::error_code error;
     const fs::path absolute = fs::absolute(path, error);
     return error ? path : absolute.lexically_normal().string();
+}
+
+std::string CanonicalPath(const std::string& path) {
+    std::error_code error;
+    const fs::path found = fs::weakly_canonical(FindSpelling(AbsolutePath(path)), error);
+    std::string text = error ? path : found.string();
+    while (text.size() > 1 && text.ends_with('/')) text.pop_back();
+    return text;
 }
 
 std::string ProgramPath() {

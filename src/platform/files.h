@@ -37,7 +37,8 @@ bool WriteLines(const std::string& path, const std::vector<std::string>& lines);
 /// The same for a file that is UTF-8 on disk.
 bool WriteUtf8Lines(const std::string& path, const std::vector<std::string>& lines);
 
-/// Appends one line, ended by CR LF; makes the file when it is missing.
+/// Appends one line, ended by CR LF; makes the file when it is missing, and ends its last line
+/// first when that has no end.
 bool AppendLine(const std::string& path, const std::string& line);
 
 /// True when the path is a file that can be opened for reading.
@@ -45,9 +46,6 @@ bool FileExists(const std::string& path);
 
 /// True when the path is a folder.
 bool FolderExists(const std::string& path);
-
-/// True when a new file can be made in this folder.
-bool FolderWritable(const std::string& path);
 
 /// Names of the entries of a folder, sorted by byte order, without "." and "..". Empty when it
 /// cannot be listed.
@@ -82,6 +80,10 @@ bool ChangeFolder(const std::string& path);
 
 /// The path as seen from the root of the machine, for paths that a user types.
 std::string AbsolutePath(const std::string& path);
+
+/// The path without "." and "..", repeated or trailing separators and links on its way: the one
+/// path by which two names of a folder can be compared. Parts that do not exist stay as they are.
+std::string CanonicalPath(const std::string& path);
 
 /// Path of the running program; empty when the system does not tell.
 std::string ProgramPath();

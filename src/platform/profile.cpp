@@ -64,10 +64,15 @@ std::string HomeFolder() {
 }
 
 std::string ConfigFolder() {
+    // The current folder changes with the project; a relative setting means the one at the start.
+    static const std::string startFolder = AbsolutePath(".");
+    const auto absolute = [&](const std::string& path) {
+        return path.starts_with('/') ? path : JoinPath(startFolder, path);
+    };
     const std::string own = Environment("VERANDIS_CONFIG_DIR");
-    if (!own.empty()) return own;
+    if (!own.empty()) return absolute(own);
     const std::string shared = Environment("XDG_CONFIG_HOME");
-    if (!shared.empty()) return JoinPath(shared, "verandis");
+    if (!shared.empty()) return JoinPath(absolute(shared), "verandis");
     return JoinPath(JoinPath(HomeFolder(), ".config"), "verandis");
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "app/session.h"
+#include "platform/encoding.h"
 #include "platform/files.h"
 #include "platform/paths.h"
 #include "platform/prompts.h"
@@ -40,12 +41,16 @@ bool NameAllowed(const std::string& name) {
     const std::string first = Left(name, 1);
     const bool letterFirst = LowerCase(first) != UpperCase(first);
     if (!letterFirst || Length(name) > kLongestName || name.find(' ') != std::string::npos ||
-        NameClimbs(name)) {
+        NameClimbs(name) || !SurvivesCodePage(name)) {
         return Refuse("Case name must be <= " + std::to_string(kLongestName) +
                       " characters long with no spacec in the name !");
     }
     if (FindCase(name)) return Refuse("A case with the same name already exists");
     return true;
+}
+
+std::string TitleBehindDash(const std::string& line) {
+    return std::string(TrimBlanks(RightOfSeparator(line, " -")));
 }
 
 bool IsHidden(const CaseRow& row) {
@@ -56,6 +61,18 @@ bool IsHidden(const CaseRow& row) {
 void CopyWallLibrary(const std::string& caseFolder) {
     const std::string library = JoinPath(session.ProjectFolder, kWallLibrary);
     if (FileExists(library)) CopyFile(library, JoinPath(caseFolder, kWallLibrary));
+}
+
+/// Gives the line that holds exactly the old name and title the new ones.
+bool RewriteCaseLine(const CaseRow& oldRow, const CaseRow& newRow) {
+    return ReplaceList(session.ProjectFolder, kCaseListName,
+                       [&](const std::string& line) -> std::optional<std::string> {
+                           // The title is told here by " -" alone, so that a line without the blank
+                           // is not taken for one without a title.
+                           const bool same = CaseOfLine(line).name == LowerCase(oldRow.name) &&
+                                             TitleBehindDash(line) == TrimBlanks(oldRow.title);
+                           return same ? CaseListRow({LowerCase(newRow.name), newRow.title}) : line;
+                       });
 }
 
 void MarkCase(const std::string& caseFolder, const StageFlags& flags) {
@@ -121,6 +138,7 @@ void OpenCase(const CaseRow& row) {
 }
 
 void AddCase(const std::string& name, const std::string& title) {
+    if (session.ProjectFolder.empty()) return;
     AppendLine(ListPath(), CaseListRow({LowerCase(name), title}));
     const std::string folder = FolderOfCase(name);
     MakeFolders(folder);
@@ -138,20 +156,16 @@ void DeleteCase(const std::string& name) {
 }
 
 bool ChangeCaseLine(const CaseRow& oldRow, const CaseRow& newRow, bool keepFolder) {
-    if (!keepFolder && !Rename(FolderOfCase(oldRow.name), newRow.name)) return false;
-    return ReplaceList(session.ProjectFolder, kCaseListName,
-                       [&](const std::string& line) -> std::optional<std::string> {
-                           const CaseRow row = CaseOfLine(line);
-                           const bool same = row.name == oldRow.name && row.title == oldRow.title;
-                           if (!same) return line;
-                           return CaseListRow({LowerCase(newRow.name), newRow.title});
-                       });
+    if (!RewriteCaseLine(oldRow, newRow)) return false;
+    if (keepFolder || Rename(FolderOfCase(oldRow.name), newRow.name)) return true;
+    RewriteCaseLine(newRow, oldRow);  // the folder stays, and so does its line
+    return false;
 }
 
 bool CreateCase(const std::string& typedName, const std::string& title) {
     const std::string name(TrimBlanks(typedName));
     if (!NameAllowed(name)) return false;
-    AddCase(name, std::string(TrimBlanks(title)));
+    AddCase(name, title);
     return true;
 }
 
@@ -167,7 +181,7 @@ void DeleteResultFiles(const std::string& caseFolder) {
 bool CopyCase(const CaseRow& source, const std::string& typedName, const std::string& title) {
     const std::string name(TrimBlanks(typedName));
     if (!NameAllowed(name)) return false;
-    AddCase(name, std::string(TrimBlanks(title)));
+    AddCase(name, title);
     const std::string target = FolderOfCase(name);
     const bool copied = CopyTree(FolderOfCase(source.name), target);
     DeleteResultFiles(target);
@@ -178,6 +192,7 @@ bool CopyCase(const CaseRow& source, const std::string& typedName, const std::st
 
 bool CopyCase2(const CaseRow& source, const std::string& target) {
     const std::string folder = FolderOfCase(target);
+    if (!FolderExists(FolderOfCase(source.name))) return false;  // the slot keeps what it has
     if (!FindCase(target)) AddCase(target, source.title);
     EmptyFolder(folder);
     const bool copied = CopyTree(FolderOfCase(source.name), folder);
@@ -188,7 +203,7 @@ bool CopyCase2(const CaseRow& source, const std::string& target) {
 
 bool RenameCase(const CaseRow& row, const std::string& typedName, const std::string& title) {
     const std::string name(TrimBlanks(typedName));
-    const CaseRow renamed = {name, std::string(TrimBlanks(title))};
+    const CaseRow renamed = {name, title};
     if (session.CaseName.empty()) return Refuse("No Case has been opened");
     if (name.empty()) return Refuse("Casename must be set");
     if (!FileExists(ListPath())) return Refuse("Casefile does not exist");

@@ -10,10 +10,18 @@ namespace {
 
 /// Folders whose loss would take more than a case or a project.
 bool MayBeRemoved(const std::string& folder) {
-    const std::string path = TrueSpelling(folder);
-    if (path.empty() || LiesIn("/", path)) return false;
-    if (!HomeFolder().empty() && LiesIn(HomeFolder(), path)) return false;
-    return session.ProjectRoot.empty() || !LiesIn(TrueSpelling(session.ProjectRoot), path);
+    if (folder.empty()) return false;
+    const std::string path = CanonicalPath(folder);
+    const auto holds = [&](const std::string& kept) {
+        return !kept.empty() && LiesIn(CanonicalPath(kept), path);
+    };
+    return path != "/" && !holds(HomeFolder()) && !holds(session.ProjectRoot);
+}
+
+/// So that a link is seen as one: with a separator behind it the system would follow it.
+std::string WithoutTrailingSeparators(std::string path) {
+    while (path.size() > 1 && (path.ends_with('/') || path.ends_with('\\'))) path.pop_back();
+    return path;
 }
 
 bool EmptyUnchecked(const std::string& folder);
@@ -49,13 +57,14 @@ bool CopyTree(const std::string& source, const std::string& target) {
 }
 
 bool RemoveTree(const std::string& folder) {
-    if (!MayBeRemoved(folder)) return false;
-    if (IsLink(folder)) return DeleteFile(folder);
-    return FolderExists(folder) && EmptyUnchecked(folder) && RemoveFolder(folder);
+    const std::string path = WithoutTrailingSeparators(folder);
+    if (IsLink(path)) return DeleteFile(path);
+    return MayBeRemoved(path) && FolderExists(path) && EmptyUnchecked(path) && RemoveFolder(path);
 }
 
 bool EmptyFolder(const std::string& folder) {
-    return MayBeRemoved(folder) && !IsLink(folder) && EmptyUnchecked(folder);
+    const std::string path = WithoutTrailingSeparators(folder);
+    return !IsLink(path) && MayBeRemoved(path) && EmptyUnchecked(path);
 }
 
 }  // namespace verandis

@@ -1,5 +1,6 @@
 #include "projects/list_file.h"
 
+#include <algorithm>
 #include <vector>
 
 #include "platform/files.h"
@@ -20,7 +21,10 @@ bool ReplaceList(const std::string& folder, const std::string& listName, const L
     for (const std::string& line : *lines) {
         if (auto changed = change(std::string(TrimBlanks(line)))) kept.push_back(*changed);
     }
-    if (linesLeft) *linesLeft = kept.size();
+    if (linesLeft) {
+        *linesLeft = static_cast<std::size_t>(std::count_if(
+            kept.begin(), kept.end(), [](const std::string& line) { return !line.empty(); }));
+    }
     return WriteLines(temporary, kept) && DeleteFile(list) && Rename(temporary, listName);
 }
 

@@ -12,7 +12,7 @@ using LineChange = std::function<std::optional<std::string>(const std::string& t
 /// Rewrites an existing list through a temporary file beside it, of the same name with the ending
 /// ".XXX": the changed copy is written whole, then the list is deleted and the copy renamed. Does
 /// nothing when the list is missing. False when a step failed; before the deletion the list is
-/// untouched then. `linesLeft`, when given, receives the number of lines written.
+/// untouched then. `linesLeft`, when given, receives the number of filled lines written.
 bool ReplaceList(const std::string& folder, const std::string& listName, const LineChange& change,
                  std::size_t* linesLeft = nullptr);
 

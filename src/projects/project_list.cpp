@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "app/session.h"
+#include "platform/encoding.h"
 #include "platform/files.h"
 #include "platform/paths.h"
 #include "platform/prompts.h"
@@ -100,14 +101,17 @@ bool NameClimbs(const std::string& name) {
 
 void AddProject(const std::string& name, const std::string& path) {
     const std::string folder = WithoutTrailingSeparator(path);
+    if (session.ProjectRoot.empty()) return;
     if (!AppendLine(ListPath(), LowerCase(name + "\t" + folder))) return;
-    MakeFolders(folder);
+    if (!MakeFolders(folder)) return;
     OpenProject({name, folder});
+    ChangeFolder(session.ProjectRoot);
 }
 
 void OpenProject(const ProjectRow& row) {
     session.ProjectName = LowerCase(row.name);
-    session.ProjectFolder = LowerCase(row.path);
+    session.ProjectFolder = LowerCase(WithMachineSeparators(row.path));
+    ChangeFolder(session.ProjectFolder);
     CloseOpenCase();
     session.WindowTitle = "THARM (" + session.ProjectName + ")";
 }
@@ -128,7 +132,7 @@ void DeleteProjectFolder(const std::string& name, const std::string& path) {
 bool ChangeProjectLine(const std::string& oldName, const std::string& newName) {
     return ReplaceList(session.ProjectRoot, kProjectListName,
                        [&](const std::string& line) -> std::optional<std::string> {
-                           if (NameOfLine(line) != LowerCase(oldName)) return line;
+                           if (!EqualNoCase(NameOfLine(line), oldName)) return line;
                            const auto path = RightOfSeparator(line, "\t");
                            return LowerCase(newName) + "\t" + std::string(path);
                        });
@@ -138,7 +142,8 @@ bool CreateProject(const std::string& typedName) {
     const std::string name(TrimBlanks(typedName));
     const std::string path = NewProjectPath(name);
     if (name.empty()) return Refuse("Name and path must be set");
-    if (Length(name) > kLongestName || name.find(' ') != std::string::npos || NameClimbs(name)) {
+    if (Length(name) > kLongestName || name.find(' ') != std::string::npos || NameClimbs(name) ||
+        !SurvivesCodePage(name)) {
         return RefuseName();
     }
     if (IsSystemFolder(path)) {
@@ -158,7 +163,7 @@ bool CopyProject(const ProjectRow& source, const std::string& typedName) {
     const std::string name(TrimBlanks(typedName));
     const std::string path = NewProjectPath(name);
     if (name.empty()) return Refuse("Target name must be set");
-    if (Length(name) > kLongestName || NameClimbs(name)) {
+    if (Length(name) > kLongestName || NameClimbs(name) || !SurvivesCodePage(name)) {
         return Refuse(Bounded("Target name must be <= ", " characters long"));
     }
     if (Clashes(name, path)) {
@@ -216,7 +221,7 @@ void ConvertProjectList() {
     for (const ProjectRow& row : rows) {
         const std::string lower = LowerCase(row.path);
         const std::string_view rest = RightOfSeparator(RightOfSeparator(lower, "\\"), "\\");
-        result.push_back(row.name + "\t" + (rest.empty() ? lower : std::string(rest)));
+        result.push_back(LowerCase(row.name) + "\t" + (rest.empty() ? lower : std::string(rest)));
     }
     if (!WriteLines(path, result)) say("The file " + path + " cannot be written");
 }
