@@ -59,9 +59,10 @@ std::string BenchRoot::Project() const {
     return TrueSpelling(session.ProjectFolder);
 }
 
-void BenchRoot::EmptyFolder(const std::string& name) const {
-    fs::remove_all(Folder(name));
-    fs::create_directory(Folder(name));
+fs::path BenchRoot::NewFolder() {
+    const fs::path folder = folder_ / std::to_string(++folders_);
+    fs::create_directory(folder);
+    return folder;
 }
 
 void RunMarkedCases() {

@@ -19,12 +19,13 @@ public:
     /// Folder of the sixteen slots and of their templates.
     std::string Project() const;
 
-    /// A folder beside the data root; the second makes it, empty whatever it held.
-    std::filesystem::path Folder(const std::string& name) const { return folder_ / name; }
-    void EmptyFolder(const std::string& name) const;
+    /// Makes one more empty folder beside the data root. Those before it stay: a file system that has
+    /// just deleted many files is slow to make new ones.
+    std::filesystem::path NewFolder();
 
 private:
     std::filesystem::path folder_;
+    int folders_ = 0;
 };
 
 /// Runs the marked cases. Throws std::runtime_error when the run does not come to its end.

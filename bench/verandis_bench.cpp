@@ -2,6 +2,7 @@
 
 #include <exception>
 #include <iostream>
+#include <memory>
 #include <stdexcept>
 
 #include "app/start_up.h"
@@ -44,15 +45,16 @@ Comparison SteadyRun() {
     return comparison;
 }
 
-Comparison Rebuild(const BenchRoot& root) {
+Comparison Rebuild(BenchRoot& root) {
     Comparison comparison;
     comparison.name = "RebuildOfSixteenSlots";
     comparison.limit = kRebuildLimit;
     comparison.product = [] {
         if (!RebuildSlots()) throw std::runtime_error("the slots cannot be rebuilt");
     };
-    comparison.prepareBare = [&root] { root.EmptyFolder("copy"); };
-    comparison.bare = [&root] { CopySlotTrees(root.Project(), root.Folder("copy")); };
+    const auto target = std::make_shared<std::filesystem::path>();
+    comparison.prepareBare = [&root, target] { *target = root.NewFolder(); };
+    comparison.bare = [&root, target] { CopySlotTrees(root.Project(), *target); };
     return comparison;
 }
 
@@ -72,7 +74,7 @@ Comparison OneClimate() {
     return comparison;
 }
 
-void RegisterAll(const BenchRoot& root) {
+void RegisterAll(BenchRoot& root) {
     Register(SteadyRun());
     Register(Rebuild(root));
     Register(OneProperty());
@@ -87,7 +89,7 @@ int main(int argc, char** argv) {
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
     try {
-        const verandis::bench::BenchRoot root;
+        verandis::bench::BenchRoot root;
         verandis::bench::RegisterAll(root);
         benchmark::RunSpecifiedBenchmarks();
     } catch (const std::exception& error) {

@@ -37,7 +37,9 @@ build_preset() {
     local preset="$1"
     shift
     say "Building ($preset)"
-    cmake --preset "$preset" "$@" >"$project/.configure.log" 2>&1 || { cat "$project/.configure.log"; exit 1; }
-    rm -f "$project/.configure.log"
+    local log
+    log="$(mktemp)"
+    cmake --preset "$preset" "$@" >"$log" 2>&1 || { cat "$log"; rm -f "$log"; exit 1; }
+    rm -f "$log"
     cmake --build --preset "$preset"
 }

@@ -3,11 +3,10 @@
 #include <cmath>
 #include <limits>
 
+#include "app/run_stop.h"
 #include "app/session.h"
-#include "calc/division.h"
 #include "calc/properties.h"
 #include "case/site_file.h"
-#include "platform/errors.h"
 #include "platform/files.h"
 #include "platform/paths.h"
 #include "text/characters.h"
@@ -51,7 +50,7 @@ public:
     }
 
     [[noreturn]] void Refuse(const std::string& what) const {
-        throw RunError("Climate file " + file_ + ", line " + std::to_string(number_) + ": " + what);
+        StopRun("climate file " + file_ + ", line " + std::to_string(number_) + ": " + what);
     }
 
 private:
@@ -107,8 +106,10 @@ bool ReadBlock(ClimateLines& lines) {
     return true;
 }
 
+/// A path from the root whose folder is there: what is relative would follow the current folder.
 bool NamesFolder(const std::string& path) {
-    return !FolderOf(path).empty() && FolderExists(std::string(FolderOf(path)));
+    const bool absolute = WithMachineSeparators(WithoutDrive(path)).starts_with('/');
+    return absolute && !FolderOf(path).empty() && FolderExists(std::string(FolderOf(path)));
 }
 
 std::string FolderOfClimates() {

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "calc/division.h"
+#include "app/run_stop.h"
 #include "calc/properties.h"
 #include "case/shapes.h"
 

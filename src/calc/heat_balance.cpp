@@ -201,7 +201,7 @@ void CalcMonthBalance(int shape, int month) {
     }
     CalcSunPanelFactor(shape);
     CalcSolarGain(shape, month);
-    const auto& climate = climateTables.ClimateMonths.at(static_cast<std::size_t>(month));
+    const auto& climate = climateTables.ClimateMonths[static_cast<std::size_t>(month)];
     heatBalance.TempOut = double(climate[1]);
     heatBalance.SecondClimateField = double(climate[2]);
 }

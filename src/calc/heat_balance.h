@@ -29,6 +29,7 @@ struct HeatBalance {
     double TempGFree = 0;              // C, glazed space without heating
     double HeatDemandG = 0;            // W
     float TdgMean = 0;                 // C, demand of the designer
+    std::optional<double> TdgMin;      // C, demand of the designer, when he gave one
     float PowerDemandMax = kNoDemand;  // W
     float HeatEnergyMax = kNoDemand;   // Wh
     float CoolEnergyMax = kNoDemand;   // Wh

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "calc/division.h"
+#include "app/run_stop.h"
 #include "calc/marked_slots.h"
 #include "calc/results.h"
 #include "platform/files.h"

@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "app/program_text.h"
+#include "app/run_stop.h"
 #include "calc/climate_file.h"
-#include "calc/division.h"
 #include "calc/heat_balance.h"
 #include "calc/marked_slots.h"
 #include "calc/properties.h"
@@ -80,7 +80,6 @@ void StoreMonth(int month) {
 
 void StoreCase(const Slot& slot) {
     const HeatBalance& balance = heatBalance;
-    const auto tdgMin = PropertyNumber("TDG", "TDGMIN");
     CaseResult& result = runResults.CaseResults[runResults.RunPosition];
     result = {static_cast<float>(balance.SetPointG),
               balance.TdgMean,
@@ -90,7 +89,7 @@ void StoreCase(const Slot& slot) {
               "U",
               static_cast<float>(balance.TempB),
               std::nullopt};
-    if (tdgMin) result.TdgMin = static_cast<float>(*tdgMin);
+    if (balance.TdgMin) result.TdgMin = static_cast<float>(*balance.TdgMin);
     ResultCount(slot) = 1;
 }
 
@@ -103,7 +102,6 @@ RunOutcome RunSteadyState(RunDisplay& display) {
     for (const Slot& slot : MarkedSlots()) {
         ++runResults.RunPosition;
         CalculateSlot(slot, [](int month) {
-            for (int step = 0; step < kStepsPerMonth - 1; ++step) IncreaseProgress(1);
             StoreMonth(month);
             IncreaseProgress(1);
         });
@@ -245,12 +243,15 @@ void CalculateSlot(const Slot& slot, const std::function<void(int month)>& after
     ActivateForRun(slot);
     ReadClimateFile();
     ReadHvacData();
+    heatBalance.TdgMin = PropertyNumber("TDG", "TDGMIN");
     PrepareShapeConstants(slot.shape);
     for (int month = 1; month <= kMonths; ++month) {
         heatBalance.MonthHoursNow = heatBalance.MonthHours[static_cast<std::size_t>(month)];
         CalcMonthBalance(slot.shape, month);
         CalcGlazedSpaceTemperature();
+        IncreaseProgress(1);
         CalcDemands();
+        for (int step = 2; step < kStepsPerMonth; ++step) IncreaseProgress(1);
         afterMonth(month);
     }
 }

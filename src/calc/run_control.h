@@ -60,7 +60,7 @@ enum class RunOutcome {
 RunOutcome Calculate_Click(RunDisplay& display);
 
 /// The steady-state calculation of one slot, month by month; `afterMonth` is called with the month
-/// when its figures stand in `heatBalance`. Throws RunError.
+/// when its figures stand in `heatBalance`. Steps the bar five times a month. Throws RunError.
 void CalculateSlot(const Slot& slot, const std::function<void(int month)>& afterMonth);
 
 /// Text for a diagram's legend: the word for climate, ":" and the open case's climate up to its

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "app/run_stop.h"
 #include "text/characters.h"
 
 namespace verandis {
@@ -49,7 +50,8 @@ std::size_t Index(int shape) {
 }  // namespace
 
 const ShapeWords& WordsOf(int shape) {
-    return kShapes.at(Index(shape));
+    if (!IsShape(shape)) StopRun("there is no shape number " + std::to_string(shape));
+    return kShapes[Index(shape)];
 }
 
 int ShapeNumber(std::string_view name) {

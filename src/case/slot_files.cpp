@@ -69,6 +69,7 @@ std::string TemplateName(int shape, int caseNo) {
 }
 
 void InstallSlotFiles(int shape) {
+    if (!IsShape(shape)) return;
     for (int number = 1; number <= kCasesPerShape; ++number) {
         const std::string source = InProject(WordsOf(shape).folder, TemplateName(shape, number));
         if (!FileExists(source)) continue;
@@ -77,6 +78,7 @@ void InstallSlotFiles(int shape) {
 }
 
 void RemoveSlotTemplates(int shape) {
+    if (!IsShape(shape)) return;
     for (int number = 1; number <= kCasesPerShape; ++number) {
         const std::string folder = SlotFolderName({shape, number});
         for (int each = 1; each <= kCasesPerShape; ++each) {

@@ -34,17 +34,15 @@ int StopCommand(const CommandCall& call, const std::string& sentence) {
     return kExitStopped;
 }
 
-Slot OpenLabelledSlot(const CommandCall& call, const std::string& label) {
-    const Slot slot = SlotOfLabel(label);
+int OpenLabelledSlot(const CommandCall& call, const std::string& label, Slot& slot) {
+    slot = SlotOfLabel(label);
     if (slot.shape == 0) {
         StopCommand(call, "There is no slot " + label +
-                              ": slots are U1 to U4, O1 to O4, V1 to V4, "
-                              "I1 to I4");
-        return {};
+                              ": slots are U1 to U4, O1 to O4, V1 to V4, I1 to I4");
+        return kExitUsage;
     }
-    if (ActivateSlot(slot.caseNo, slot.shape, "")) return slot;
-    StopCommand(call, "Slot " + SlotLabel(slot) + " is not there yet: run start first");
-    return {};
+    if (ActivateSlot(slot.caseNo, slot.shape, "")) return kExitDone;
+    return StopCommand(call, "Slot " + SlotLabel(slot) + " is not there yet: run start first");
 }
 
 int InitCommand(const CommandCall& call) {
@@ -81,16 +79,18 @@ int SlotsCommand(const CommandCall& call) {
             call.out << "-\t-\t-\n";
         }
     }
+    ReactivateEditedSlot();
     return kExitDone;
 }
 
 int GetCommand(const CommandCall& call) {
-    if (OpenLabelledSlot(call, call.arguments[0]).shape == 0) return kExitStopped;
-    if (!FileExists(PropertyFilePath())) {
-        return StopCommand(call, "The file " + PropertyFilePath() + " does not exist");
-    }
+    Slot slot;
+    const int opened = OpenLabelledSlot(call, call.arguments[0], slot);
+    if (opened != kExitDone) return opened;
+    const bool there = FileExists(PropertyFilePath());
     std::string value;
-    GetCaseProperty(call.arguments[1], call.arguments[2], value);
+    GetCaseProperty(call.arguments[1], call.arguments[2], value);  // tells of a missing file itself
+    if (!there) return kExitStopped;
     call.out << value << "\n";
     return kExitDone;
 }
@@ -99,19 +99,22 @@ int SetCommand(const CommandCall& call) {
     const std::string& section = call.arguments[1];
     const std::string& key = call.arguments[2];
     const std::string& value = call.arguments[3];
-    if (OpenLabelledSlot(call, call.arguments[0]).shape == 0) return kExitStopped;
     const bool badName = section.find('\t') != std::string::npos ||
                          key.find('\t') != std::string::npos || section.empty() || key.empty();
     if (badName || HoldsLineEnd(section + key + value)) {
-        return StopCommand(call,
-                           "Section and key must be filled, without a TAB, and no line may end "
-                           "in them or in the value");
+        StopCommand(call,
+                    "Section and key must be filled, without a TAB, and no line may end in them or "
+                    "in the value");
+        return kExitUsage;
     }
+    Slot slot;
+    const int opened = OpenLabelledSlot(call, call.arguments[0], slot);
+    if (opened != kExitDone) return opened;
     session.ElementKindMark = static_cast<std::int16_t>(call.line.kind);
     const bool stored = SetCaseProperty(section, key, value);
     session.ElementKindMark = 0;
     if (stored) return kExitDone;
-    return StopCommand(call, "The file " + PropertyFilePath() + " does not hold the value");
+    return StopCommand(call, "The value is not stored in " + PropertyFilePath());
 }
 
 }  // namespace verandis

@@ -26,9 +26,10 @@ int SlotsCommand(const CommandCall& call);
 int GetCommand(const CommandCall& call);
 int SetCommand(const CommandCall& call);
 
-/// Opens the slot of a label and gives it; shape 0 after a complaint when the label is wrong or the
-/// case list lacks the slot.
-Slot OpenLabelledSlot(const CommandCall& call, const std::string& label);
+/// Opens the slot of a label and puts it into `slot`. The exit code: done, wrong usage for a label
+/// that no slot has, stopped when the case list lacks the slot; each but the first after a
+/// complaint.
+int OpenLabelledSlot(const CommandCall& call, const std::string& label, Slot& slot);
 
 /// Tells on standard error why a command stops.
 int StopCommand(const CommandCall& call, const std::string& sentence);

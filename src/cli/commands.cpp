@@ -1,7 +1,6 @@
 #include "cli/commands.h"
 
 #include <algorithm>
-#include <optional>
 
 #include "app/session.h"
 #include "app/settings.h"
@@ -129,6 +128,26 @@ int RunCommandLine(const CommandLine& line, std::ostream& out, std::ostream& err
     return command->routine({line, {line.words.begin() + 1, line.words.end()}, out, err});
 }
 
+/// The console as the system's prompts and progress, for as long as this lives.
+class ConsoleUse {
+public:
+    ConsoleUse(Prompts& prompts, Progress& progress)
+        : promptsBefore_(CurrentPrompts()), progressBefore_(CurrentProgress()) {
+        UsePrompts(prompts);
+        UseProgress(progress);
+    }
+    ~ConsoleUse() {
+        UsePrompts(promptsBefore_);
+        UseProgress(progressBefore_);
+    }
+    ConsoleUse(const ConsoleUse&) = delete;
+    ConsoleUse& operator=(const ConsoleUse&) = delete;
+
+private:
+    Prompts& promptsBefore_;
+    Progress& progressBefore_;
+};
+
 void ResetState() {
     session = {};
     runResults = {};
@@ -152,12 +171,9 @@ int RunCli(const std::vector<std::string>& arguments, std::ostream& out, std::os
         WriteHelp(out);
         return kExitDone;
     }
-    ConsolePrompts prompts(err, line.yes);
-    UsePrompts(prompts);
-    std::optional<ConsoleProgress> bar;
-    Progress silent;
-    if (errIsTerminal) bar.emplace(err);
-    UseProgress(bar ? static_cast<Progress&>(*bar) : silent);
+    ConsolePrompts prompts(err, line.yes, errIsTerminal);
+    ConsoleProgress bar(err, errIsTerminal);
+    const ConsoleUse use(prompts, bar);
     try {
         return RunCommandLine(line, out, err);
     } catch (const RunError& error) {

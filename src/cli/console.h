@@ -10,7 +10,8 @@ namespace verandis {
 /// Messages as lines "[title] text"; every question is answered as the command line says.
 class ConsolePrompts : public Prompts {
 public:
-    ConsolePrompts(std::ostream& err, bool yes) : err_(err), yes_(yes) {}
+    ConsolePrompts(std::ostream& err, bool yes, bool terminal)
+        : err_(err), yes_(yes), terminal_(terminal) {}
 
     void Message(const std::string& text, const std::string& title, Icon icon) override;
     bool AskYesNo(const std::string& text, const std::string& title) override;
@@ -21,12 +22,13 @@ public:
 private:
     std::ostream& err_;
     bool yes_;
+    bool terminal_;
 };
 
-/// One line that is written over as the run goes on.
+/// One line that is written over as the run goes on; nothing when the stream is no terminal.
 class ConsoleProgress : public Progress {
 public:
-    explicit ConsoleProgress(std::ostream& err) : err_(err) {}
+    ConsoleProgress(std::ostream& err, bool terminal) : err_(err), terminal_(terminal) {}
     ~ConsoleProgress() override;
     ConsoleProgress(const ConsoleProgress&) = delete;
     ConsoleProgress& operator=(const ConsoleProgress&) = delete;
@@ -36,6 +38,7 @@ protected:
 
 private:
     std::ostream& err_;
+    bool terminal_;
     int shownPercent_ = -1;
 };
 

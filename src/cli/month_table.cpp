@@ -1,6 +1,7 @@
 #include "cli/month_table.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "app/program_text.h"
 #include "calc/marked_slots.h"
@@ -100,10 +101,22 @@ std::string JsonText(const std::string& text) {
     return quoted + "\"";
 }
 
+/// JSON has no word for what is no number.
+std::string JsonNumber(float value) {
+    return std::isfinite(value) ? TrimmedNumberText(value) : "null";
+}
+
+std::string CsvText(const std::string& text) {
+    if (text.find_first_of(",\"\r\n") == std::string::npos) return text;
+    std::string quoted = "\"";
+    for (const char c : text) quoted += c == '"' ? "\"\"" : std::string(1, c);
+    return quoted + "\"";
+}
+
 std::string JsonMonth(std::size_t month, const MonthResult& result) {
     std::string text = "{\"month\": " + std::to_string(month);
     for (const Column& column : kColumns) {
-        text += std::string(", \"") + column.key + "\": " + TrimmedNumberText(result.*column.value);
+        text += std::string(", \"") + column.key + "\": " + JsonNumber(result.*column.value);
     }
     return text + "}";
 }
@@ -111,8 +124,8 @@ std::string JsonMonth(std::size_t month, const MonthResult& result) {
 std::string JsonCase(const CalculatedCase& each) {
     std::string text = "    {\"slot\": " + JsonText(SlotLabel(each.slot)) +
                        ", \"climate\": " + JsonText(each.climate) +
-                       ", \"setPointG\": " + TrimmedNumberText(each.result.SetPointG) +
-                       ", \"tempB\": " + TrimmedNumberText(each.result.TempB) + ", \"months\": [\n";
+                       ", \"setPointG\": " + JsonNumber(each.result.SetPointG) +
+                       ", \"tempB\": " + JsonNumber(each.result.TempB) + ", \"months\": [\n";
     for (std::size_t month = 1; month <= kMonths; ++month) {
         text += "        " + JsonMonth(month, each.months[month]);
         text += month < kMonths ? ",\n" : "\n";
@@ -158,7 +171,8 @@ std::string MonthCsv(const std::vector<CalculatedCase>& cases) {
     text += "\n";
     for (const CalculatedCase& each : cases) {
         for (std::size_t month = 1; month <= kMonths; ++month) {
-            text += SlotLabel(each.slot) + "," + each.climate + "," + std::to_string(month);
+            text +=
+                SlotLabel(each.slot) + "," + CsvText(each.climate) + "," + std::to_string(month);
             for (const Column& column : kColumns) {
                 text += "," + TrimmedNumberText(each.months[month].*column.value);
             }

@@ -32,16 +32,18 @@ int ExitCodeOf(RunOutcome outcome) {
     return kExitStopped;
 }
 
-/// Marks the slots that the command names; false after a complaint.
-bool MarkSlots(const CommandCall& call) {
+/// Marks the slots that the command names; the exit code of the first that cannot be.
+int MarkSlots(const CommandCall& call) {
     for (std::size_t at = 1; at < call.arguments.size(); ++at) {
-        const Slot slot = OpenLabelledSlot(call, call.arguments[at]);
-        if (slot.shape == 0) return false;
+        Slot slot;
+        const int opened = OpenLabelledSlot(call, call.arguments[at], slot);
+        if (opened != kExitDone) return opened;
         session
             .ChkCase[static_cast<std::size_t>(slot.shape)][static_cast<std::size_t>(slot.caseNo)] =
             true;
     }
-    return true;
+    ReactivateEditedSlot();
+    return kExitDone;
 }
 
 bool WriteWanted(const CommandCall& call, const std::string& file, const std::string& text) {
@@ -91,7 +93,8 @@ int RunCommand(const CommandCall& call) {
         StopCommand(call, "A run is steady or dynamic, not " + kind);
         return kExitUsage;
     }
-    if (!MarkSlots(call)) return kExitStopped;
+    const int marked = MarkSlots(call);
+    if (marked != kExitDone) return marked;
     session.CalcMode = kind == "steady" ? kSteadyState : kDynamic;
     RunDisplay nothing;
     const RunOutcome outcome = Calculate_Click(nothing);
@@ -100,8 +103,9 @@ int RunCommand(const CommandCall& call) {
 }
 
 int ExplainCommand(const CommandCall& call) {
-    const Slot slot = OpenLabelledSlot(call, call.arguments[0]);
-    if (slot.shape == 0) return kExitStopped;
+    Slot slot;
+    const int opened = OpenLabelledSlot(call, call.arguments[0], slot);
+    if (opened != kExitDone) return opened;
     ClimateLabel();  // the same refusal of a climate without a "_" as in a run
     ResetMonthHours();
     ReadRefWindows();

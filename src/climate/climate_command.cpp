@@ -1,6 +1,7 @@
 #include "climate/climate_command.h"
 
 #include <algorithm>
+#include <map>
 #include <optional>
 #include <ostream>
 
@@ -21,7 +22,7 @@ namespace {
 constexpr int kDone = 0;
 constexpr int kWrongUse = 1;
 constexpr int kRefused = 2;
-constexpr std::size_t kMostDoubtsShown = 25;
+constexpr std::size_t kMostDoubtsOfKind = 25;
 
 constexpr const char* kHelp =
     R"(verandis-climate makes the climate files of Verandis: BASES.dat with the months and the
@@ -151,16 +152,20 @@ private:
         for (const std::string& line : MonthTable(year.months)) out_ << line << "\n";
     }
 
+    /// The first of each kind, so that a long gap does not hide a single odd value.
     void ShowDoubts(const std::vector<ClimateDoubt>& doubts) {
         if (doubts.empty()) return;
         out_ << "Doubtful values: " << doubts.size() << "\n";
-        const std::size_t shown = std::min(doubts.size(), kMostDoubtsShown);
-        for (std::size_t at = 0; at < shown; ++at) {
-            const ClimateDoubt& doubt = doubts[at];
+        std::map<std::string, std::size_t> counts;
+        for (const ClimateDoubt& doubt : doubts) {
+            if (++counts[doubt.field + ": " + doubt.reason] > kMostDoubtsOfKind) continue;
             out_ << "  line " << doubt.line << ", field " << doubt.field << ", value "
                  << Quoted(doubt.value) << ": " << doubt.reason << "\n";
         }
-        if (shown < doubts.size()) out_ << "  ... and " << doubts.size() - shown << " more\n";
+        for (const auto& [kind, count] : counts) {
+            if (count <= kMostDoubtsOfKind) continue;
+            out_ << "  ... and " << count - kMostDoubtsOfKind << " more, field " << kind << "\n";
+        }
     }
 };
 

@@ -73,16 +73,12 @@ void CheckSum(const WindowEntry& entry, EntryComplaint& complaint) {
         "TT");
 }
 
-std::string Percent(const std::string& fraction) {
-    return TrimmedNumberText(ToNumber(fraction) * 100);
+std::string OnScreen(double number) {
+    return PointToDecimal(TrimmedNumberText(number), session.Decimals);
 }
 
 std::string Fraction(const std::string& percent) {
     return NumberText(ToNumber(percent) / 100);
-}
-
-std::string OnScreen(const std::string& number) {
-    return PointToDecimal(TrimmedNumberText(ToNumber(number)), session.Decimals);
 }
 
 }  // namespace
@@ -102,7 +98,8 @@ EntryComplaint CheckWindowEntry(const WindowEntry& entry) {
 
 EntryComplaint CheckWallEntry(const std::string& TU) {
     EntryComplaint complaint;
-    if (!IsDecimal(TU)) Add(complaint, MustBe(kUValueWord, kNumberWord), "TU");
+    const std::string trimmed(TrimBlanks(TU));
+    if (!IsDecimal(trimmed)) Add(complaint, MustBe(kUValueWord, kNumberWord), "TU");
     return complaint;
 }
 
@@ -111,9 +108,12 @@ void ShowComplaint(const EntryComplaint& complaint) {
 }
 
 WindowEntry ShownWindow(const TextTable& table, int row) {
-    return {Percent(table.Cell(row, kTransmittance)), Percent(table.Cell(row, kReflectance)),
-            Percent(table.Cell(row, kAbsorptance)), OnScreen(table.Cell(row, kWindowU)),
-            table.Cell(row, kPanes)};
+    if (row < 1 || row > table.rows()) return {};
+    const auto percent = [&](WindowColumn column) {
+        return OnScreen(ToNumber(table.Cell(row, column)) * 100);
+    };
+    return {percent(kTransmittance), percent(kReflectance), percent(kAbsorptance),
+            OnScreen(ToNumber(table.Cell(row, kWindowU))), table.Cell(row, kPanes)};
 }
 
 void StoreWindowEntry(TextTable& table, int row, const WindowEntry& entry) {
@@ -125,7 +125,8 @@ void StoreWindowEntry(TextTable& table, int row, const WindowEntry& entry) {
 }
 
 std::string ShownWallU(const TextTable& table, int row) {
-    return OnScreen(table.Cell(row, kWallU));
+    if (row < 1 || row > table.rows()) return "";
+    return OnScreen(ToNumber(table.Cell(row, kWallU)));
 }
 
 void StoreWallEntry(TextTable& table, int row, const std::string& TU) {

@@ -40,7 +40,7 @@ EntryComplaint CheckWallEntry(const std::string& TU);
 /// Shows a complaint as the dialogs do.
 void ShowComplaint(const EntryComplaint& complaint);
 
-/// A row of a window table as the fields show it.
+/// A row of a window table as the fields show it; empty fields for a row that is not there.
 WindowEntry ShownWindow(const TextTable& table, int row);
 
 /// Stores a checked entry into a row: percentages as fractions, numbers as number text.

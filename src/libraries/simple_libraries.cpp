@@ -3,10 +3,10 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "app/run_stop.h"
 #include "app/session.h"
 #include "case/property_file.h"
 #include "platform/encoding.h"
-#include "platform/errors.h"
 #include "platform/files.h"
 #include "platform/paths.h"
 #include "platform/prompts.h"
@@ -76,8 +76,8 @@ void ReadSunPanel() {
     static std::string bytes;
     if (!ReadLibrary("SimpSunPanel.lib", bytes)) return;
     if (simpleLibraries.MaxPanes > kMostPanes) {
-        throw RunError("The reference windows have " + std::to_string(simpleLibraries.MaxPanes) +
-                       " panes; the sun panel table holds " + std::to_string(kMostPanes));
+        StopRun("the reference windows have " + std::to_string(simpleLibraries.MaxPanes) +
+                " panes; the sun panel table holds " + std::to_string(kMostPanes));
     }
     std::string_view rest = bytes;
     for (int line = 0; line < kSunPanelHeadings; ++line) TakeLine(rest);
@@ -143,13 +143,13 @@ double SunPanelValue(int set, double transmittance, double x) {
         panes = static_cast<std::size_t>(each);
     }
     if (panes > kMostPanes || set < 1 || set > kShapeCount) {
-        throw RunError("The sun panel table has no set " + std::to_string(set) + " with " +
-                       std::to_string(panes) + " panes");
+        StopRun("the sun panel table has no set " + std::to_string(set) + " with " +
+                std::to_string(panes) + " panes");
     }
     const auto [a, b] = simpleLibraries.SunPanelTable[static_cast<std::size_t>(set)][panes];
     if (a <= 0 || x <= 0) {
-        throw RunError("The logarithm of a sun panel coefficient a of" + NumberText(a) +
-                       " and an absorptance of" + NumberText(x) + " cannot be taken");
+        StopRun("the logarithm of a sun panel coefficient a of" + NumberText(a) +
+                " and an absorptance of" + NumberText(x) + " cannot be taken");
     }
     return std::exp(std::log(a) + b * std::log(x));
 }

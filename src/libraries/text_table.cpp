@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "app/run_stop.h"
 #include "platform/encoding.h"
-#include "platform/errors.h"
 #include "text/characters.h"
 #include "text/separators.h"
 
@@ -11,8 +11,8 @@ namespace verandis {
 
 std::size_t TextTable::Index(int row, int column) const {
     if (row < 1 || row > rows_ || column < 1 || column > columns_) {
-        throw RunError("A library table has no row " + std::to_string(row) + ", column " +
-                       std::to_string(column) + ": it holds " + std::to_string(rows_) + " rows");
+        StopRun("a library table has no row " + std::to_string(row) + ", column " +
+                std::to_string(column) + ": it holds " + std::to_string(rows_) + " rows");
     }
     return static_cast<std::size_t>((row - 1) * columns_ + column - 1);
 }

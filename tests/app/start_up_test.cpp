@@ -113,8 +113,7 @@ TEST_F(Start, FillsEverySlotFromItsTemplate) {
 TEST_F(Start, OpensTheFirstSlotOfShapeV) {
     session.ElementKindMark = 2;
     ASSERT_TRUE(StartSession());
-    EXPECT_EQ(session.ActiveShape, kShapeV);
-    EXPECT_EQ(session.ActiveCaseNo, 1);
+    EXPECT_EQ((Slot{session.ActiveShape, session.ActiveCaseNo}), (Slot{kShapeV, 1}));
     EXPECT_EQ(session.CaseName, "vshape1");
     EXPECT_EQ(session.ElementKindMark, 0);
     EXPECT_EQ(session.ShowDiagrams, kOn);
@@ -132,22 +131,15 @@ TEST_F(Start, GoesOnWithoutWhatIsMissing) {
     struct Row {
         std::string missing;
         bool started;
-        const char* whole;  // below the project
         Lines messages;
     };
-    const Row rows[] = {{"PROJECT/verandis/VShape", true, "OShape1/SimpPropertiesOfCase.Dat", {}},
-                        {"PROJECT/verandis/UShape/SimpPropertiesOfCaseU2.Dat",
-                         true,
-                         "UShape3/SimpPropertiesOfCase.Dat",
-                         {}},
-                        {"PROJECT/verandis/DynamicFilesUOVI.dat",
-                         true,
-                         "OShape1/SimpPropertiesOfCase.Dat",
-                         {"No File exist"}},
-                        {"CLIM", true, "UShape1/SITE.inp", {}},
-                        {"MWTHARM", true, "UShape1/SITE.inp", {}},
-                        {"PROJECT/verandis/CASES.LIB", false, "UShape/SITE.inp", {}},
-                        {"PROJECT/PROJECTS.LIB", false, "SimpWalls.lib", {}}};
+    const Row rows[] = {{"PROJECT/verandis/VShape", true, {}},
+                        {"PROJECT/verandis/UShape/SimpPropertiesOfCaseU2.Dat", true, {}},
+                        {"PROJECT/verandis/DynamicFilesUOVI.dat", true, {"No File exist"}},
+                        {"CLIM", true, {}},
+                        {"MWTHARM", true, {}},
+                        {"PROJECT/verandis/CASES.LIB", false, {}},
+                        {"PROJECT/PROJECTS.LIB", false, {}}};
     fs::copy(root, Path("Spare"), fs::copy_options::recursive);
     for (const Row& row : rows) {
         SCOPED_TRACE(row.missing);
@@ -157,8 +149,17 @@ TEST_F(Start, GoesOnWithoutWhatIsMissing) {
         prompts.shown.clear();
         EXPECT_EQ(Again(), row.started);
         EXPECT_EQ(prompts.Texts(), row.messages);
-        EXPECT_TRUE(OnDisk(project + "/" + row.whole));
+        EXPECT_EQ(OnDisk(In({kShapeO, 4}, "SimpPropertiesOfCase.Dat")), row.started);
     }
+}
+
+TEST_F(Start, LeavesAProjectLineThatLeadsSomewhere) {
+    fs::copy(project, Path("Other"), fs::copy_options::recursive);
+    const std::string lines = "first\t/x\r\nVerandis\t" + Path("Other") + "\r\n";
+    PutBytes(root + "/PROJECT/PROJECTS.LIB", lines);
+    ASSERT_TRUE(StartSession());
+    EXPECT_EQ(Bytes(root + "/PROJECT/PROJECTS.LIB"), lines);
+    EXPECT_TRUE(OnDisk(Path("Other/UShape1/SimpPropertiesOfCase.Dat")));
 }
 
 TEST_F(Start, InAMovedRootMendsTheProjectLineAndLeavesAPathWithBlanksOutOfTheSiteFiles) {

@@ -27,10 +27,6 @@ protected:
     static std::string Block(const std::string& header) {
         return header + "\n1\t1\t1\t1\t1\t1\t1\t1\t1\t1\t1\t7\n";
     }
-
-    static float& December(std::size_t kind, std::size_t direction, std::size_t tilt) {
-        return climateTables.SolarTable[kind][12][direction][tilt];
-    }
 };
 
 struct Reading {
@@ -48,6 +44,7 @@ TEST_F(ClimateFile, BlocksFillThePlaceTheyName) {
         {"a block", block, 7},
         {"last line without an end", block.substr(0, block.size() - 1), 7},
         {"horizontal block", Block("2\t0\t-10"), 7, 2, 0, 0},
+        {"tenths are rounded down", Block("2\t0\t-5"), 7, 2, 0, 0},
         {"tenths are cut, not rounded", Block("2\t89.9\t279"), 7, 2, 28, 8},
         {"nothing counts behind End", "End\n" + block, -5},
         {"End is told exactly: end heads a block", Block("end") + block, 7, 0, 1, 0},
@@ -57,18 +54,19 @@ TEST_F(ClimateFile, BlocksFillThePlaceTheyName) {
     session.Decimals = DecimalMode::Comma;
     for (const Reading& row : readings) {
         for (const std::string& text : {Months() + row.blocks, Dos(Months() + row.blocks)}) {
-            December(row.kind, row.direction, row.tilt) = -5;
+            float& december = climateTables.SolarTable[row.kind][12][row.direction][row.tilt];
+            december = -5;
             ReadClimateBytes(text, "file");
-            EXPECT_EQ(December(row.kind, row.direction, row.tilt), row.wanted) << row.fault;
+            EXPECT_EQ(december, row.wanted) << row.fault;
             EXPECT_EQ(climateTables.ClimateMonths[12][1], -12) << row.fault;
             EXPECT_EQ(climateTables.ClimateMonths[12][2], 2.5) << row.fault;
         }
     }
-    EXPECT_EQ(December(1, 10, 9), 0) << "a block went to another kind";
+    EXPECT_EQ(climateTables.SolarTable[1][12][10][9], 0) << "a block went to another kind";
 }
 
 TEST_F(ClimateFile, PlacesOutsideTheTablesStopTheRunWithFileAndLine) {
-    const std::pair<std::string, const char*> files[] = {
+    const std::pair<std::string, std::string> files[] = {
         {"1\n2\n3\n13\t1\t2\t3\n", "line 4:"},
         {Months() + Block("4\t0\t0"), "line 16:"},
         {Months() + Block("2\t90\t90") + Block("1\t100\t0"), "line 18:"},
@@ -76,14 +74,13 @@ TEST_F(ClimateFile, PlacesOutsideTheTablesStopTheRunWithFileAndLine) {
         {Months() + Block("1\t0\t-20"), "line 16:"},
         {Months() + Block("1\t1e99\t0"), "line 16:"}};
     for (const auto& [text, line] : files) {
+        std::string sentence;
         try {
             ReadClimateBytes(text, "TOWN_1S.dat");
-            ADD_FAILURE() << text;
         } catch (const RunError& error) {
-            const std::string sentence = error.what();
-            EXPECT_NE(sentence.find("TOWN_1S.dat, " + std::string(line)), std::string::npos)
-                << sentence;
+            sentence = error.what();
         }
+        EXPECT_NE(sentence.find("TOWN_1S.dat, " + line), std::string::npos) << text << sentence;
     }
 }
 
@@ -92,23 +89,20 @@ TEST_F(ClimateFile, FolderIsThatOfTheSiteFileWhenItIsThere) {
     const std::string usual = root + "/CLIM/TOWN_1S.dat";
     PutBytes(usual, Months());
     PutBytes(Path("own/Clim/TOWN_1s.DAT"), Months() + Block("2\t90\t90"));
-    const std::pair<std::string, float> sites[] = {{Path("own/clim/x.cli"), 7.0f},
-                                                   {"x.cli", 0.0f},
-                                                   {Path("gone/x.cli"), 0.0f},
-                                                   {"YYY\\CLIM\\ZZZ", 0.0f}};
-    for (const auto& [line, december] : sites) {
+    for (const std::string& line : {Path("own/clim/x.cli"), std::string("x.cli"),
+                                    Path("gone/x.cli"), std::string("YYY\\CLIM\\Z")}) {
         PutBytes(SlotFile({1, 1}, "SITE.INP"), "1\r\n2\r\n3\r\n4\r\n" + line + "\r\n");
         climateTables = {};
         ReadClimateFile();
-        EXPECT_EQ(December(2, 10, 9), december) << line;
+        const float december = line.starts_with(Path("own")) ? 7.0f : 0.0f;
+        EXPECT_EQ(climateTables.SolarTable[2][12][10][9], december) << line;
         EXPECT_EQ(climateTables.ClimateMonths[12][1], -12) << line;
     }
     PutBytes(usual, Months().substr(0, 30) + "3\t9");  // ends within a month
     ReadClimateFile();
-    EXPECT_EQ(climateTables.ClimateMonths[12][1], -12) << "a short file cleared the tables";
     std::remove(usual.c_str());
     ReadClimateFile();
-    EXPECT_EQ(climateTables.ClimateMonths[12][1], -12) << "a missing file cleared the tables";
+    EXPECT_EQ(climateTables.ClimateMonths[12][1], -12) << "a short or missing file cleared it";
     EXPECT_TRUE(prompts.shown.empty());
     session.ProjectFolder = Path("elsewhere");
     EXPECT_THROW(ReadClimateFile(), RunError);

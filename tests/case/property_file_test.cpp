@@ -84,18 +84,15 @@ TEST_F(PropertyFile, TheKindGoesBehindTheValueWhileItIsMarked) {
         ASSERT_TRUE(SetCaseProperty("XV206", "GLAZEDID", "Name"));
         EXPECT_EQ(Bytes(file), "XV206-S_GLAZEDID\t" + stored + "\r\n");
     }
-    struct Row {
-        const char *value, *name;
-        int kind;
-        bool hasKind;
-    };
-    for (const Row& row : {Row{" A b ,1", " A b ", 1, true}, Row{"Name", "Name", 0, false},
-                           Row{"Name,", "Name", 0, true}, Row{"a, b, 2", "a", 0, true}}) {
-        const NameAndKind parts = SplitKind(row.value);
-        EXPECT_EQ(parts.name, row.name);
-        EXPECT_EQ(parts.kind, row.kind) << row.value;
-        EXPECT_EQ(parts.hasKind, row.hasKind) << row.value;
+    const std::pair<const char*, std::pair<const char*, int>> parts[] = {{" A b ,1", {" A b ", 1}},
+                                                                         {"Name", {"Name", 0}},
+                                                                         {"Name,", {"Name", 0}},
+                                                                         {"a, b, 2", {"a", 0}}};
+    for (const auto& [value, expected] : parts) {
+        EXPECT_EQ(SplitKind(value).name, expected.first);
+        EXPECT_EQ(SplitKind(value).kind, expected.second) << value;
     }
+    EXPECT_TRUE(SplitKind("Name,").hasKind && !SplitKind("Name").hasKind);
 }
 
 TEST_F(PropertyFile, StagedRowsHideTheFileAndAreMatchedExactly) {

@@ -42,22 +42,21 @@ TEST(Shapes, LeadFromLabelsAndNamesBackToTheirSlot) {
         EXPECT_EQ(ShapeNumber(WordsOf(slot.shape).folder), slot.shape);
     }
     EXPECT_EQ(SlotOfLabel("i4"), (Slot{kShapeI, 4}));
-    EXPECT_EQ(SlotFolderName({kShapeO, 3}), "OShape3");
-    EXPECT_EQ(SlotCaseName({kShapeV, 2}), "vshape2");
+    EXPECT_EQ(SlotFolderName({kShapeO, 3}) + SlotCaseName({kShapeV, 2}), "OShape3vshape2");
     for (const char* none : {"", "U", "U0", "U5", "X1", "U11"})
         EXPECT_EQ(SlotOfLabel(none), Slot{});
     for (const char* none : {"", "ushape", "UShape1"}) EXPECT_EQ(ShapeNumber(none), 0) << none;
 }
 
 TEST_F(Slots, ModelFilesAreCutOutBetweenTheirMarkers) {
-    PutBytes(project + "/all.dat", Dos("U-SITE.inp\n u1 \n\tu2\t\nc_... not yet\nC_... end\n"
+    PutBytes(project + "/all.dat", Dos("U-SITE.inp\n u1 \n\tu2\t\nx C_... not yet\nC_... end\n"
                                        "stray\nmore V-Site.INP more\nv1\nC_...\n"
                                        "V-OUTPUT.inp\nopen\n\nend"));
     struct Row {
         char shape;
         const char *file, *content;
     };
-    const Row rows[] = {{'U', "SITE.inp", "u1\n\tu2\t\nc_... not yet\n"},
+    const Row rows[] = {{'U', "SITE.inp", "u1\n\tu2\t\nx C_... not yet\n"},
                         {'V', "SITE.inp", "v1\n"},
                         {'V', "OUTPUT.inp", "open\n\nend\n"},  // without its closing line
                         {'O', "SITE.inp", "kept"},             // only other letters' markers

@@ -15,7 +15,7 @@ using testing_support::Bytes;
 using testing_support::OnDisk;
 using testing_support::PutBytes;
 
-TEST_F(Files, ReadEveryKindOfLineEnd) {
+TEST_F(Files, AreReadWithAnyLineEndAndWrittenWithCrLf) {
     const std::pair<std::string, Lines> rows[] = {{"", {}},
                                                   {"\r\n", {""}},
                                                   {"a\r\nb\n\nlast", {"a", "b", "", "last"}},
@@ -27,9 +27,6 @@ TEST_F(Files, ReadEveryKindOfLineEnd) {
     }
     EXPECT_EQ(ReadLines(Path("none")), std::nullopt);
     EXPECT_EQ(ReadBytes(Path("")), std::nullopt) << "a folder is no file";
-}
-
-TEST_F(Files, WriteCrLfAndOneByteACharacter) {
     ASSERT_TRUE(WriteLines(Path("file"), {"Vägg", "", "−1"}));
     ASSERT_TRUE(AppendLine(Path("file"), "å"));
     EXPECT_EQ(Bytes(Path("file")), "V\xE4gg\r\n\r\n?1\r\n\xE5\r\n");
@@ -55,9 +52,7 @@ TEST_F(Files, TellWhenNotAllWasWritten) {
         EXPECT_FALSE(CopyFile(Path("file"), target)) << target;
     }
     EXPECT_FALSE(MakeFolders(Path("file/below/more")));
-    EXPECT_FALSE(FolderWritable(Path("file")));
-    EXPECT_FALSE(CopyFile(Path("none"), Path("file")));
-    EXPECT_FALSE(CopyFile(Path("folder"), Path("file")));
+    EXPECT_FALSE(CopyFile(Path("none"), Path("file")) || CopyFile(Path("folder"), Path("file")));
     EXPECT_EQ(Bytes(Path("file")), "kept") << "a source that cannot be read spoils nothing";
 }
 
@@ -84,9 +79,7 @@ TEST_F(Files, AreNeitherOverwrittenByARenameNorDeletedThroughALink) {
     fs::create_symlink(Path("B.lib"), Path("link"));
     EXPECT_TRUE(IsLink(Path("LINK")) && DeleteFile(Path("link")));
     EXPECT_TRUE(OnDisk(Path("B.lib")));
-    EXPECT_FALSE(DeleteFile(Path("link")));
-    EXPECT_FALSE(DeleteFile(Path(""))) << "a folder is no file";
-    EXPECT_FALSE(RemoveFolder(Path(""))) << "only an empty one";
+    EXPECT_FALSE(DeleteFile(Path("link")) || DeleteFile(Path("")) || RemoveFolder(Path("")));
 }
 
 TEST_F(Files, WithOddNamesGoTheWholeWay) {

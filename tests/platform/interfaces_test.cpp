@@ -19,8 +19,8 @@ TEST_F(Profile, FindsAKeyHoweverItIsWritten) {
              "[ tharm ]\n SYSTEMPATH =  \"/a b/ö\" \nEmpty=\nEquals=a=b;c\nQuote=\"\nPlain='x'\n"
              "SystemPath=/second\n[Tharm]\nLate=1");
     const std::pair<const char*, std::optional<std::string>> rows[] = {
-        {"systempath", "/a b/ö"}, {"Empty", ""},  {"Equals", "a=b;c"},
-        {"Quote", "\""},          {"Plain", "x"}, {"None", {}}};
+        {"systempath", "/a b/ö"}, {"Empty", ""}, {"Equals", "a=b;c"}, {"Quote", "\""},
+        {"Plain", "x"},           {"None", {}},  {"Late", {}}};
     for (const auto& [key, value] : rows) EXPECT_EQ(ReadProfile("Tharm.INI", "THARM", key), value);
     EXPECT_EQ(ReadProfile("Tharm.INI", "None", "Empty"), std::nullopt);
     EXPECT_EQ(ReadProfile("None.INI", "THARM", "Empty"), std::nullopt);
