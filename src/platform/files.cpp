@@ -68,6 +68,18 @@ bool WriteWith(const std::string& path, std::string_view bytes, int flags) {
     return ::close(file) == 0 && written;
 }
 
+/// True when the file holds bytes and the last one does not end a line.
+bool LastLineIsOpen(const std::string& path) {
+    const int file = OpenForReading(path);
+    if (file < 0) return false;
+    struct stat info {};
+    char last = '\n';
+    const bool filled = ::fstat(file, &info) == 0 && S_ISREG(info.st_mode) && info.st_size > 0;
+    const bool read = filled && ::pread(file, &last, 1, info.st_size - 1) == 1;
+    ::close(file);
+    return read && last != '\n';
+}
+
 std::vector<std::string> SplitLines(std::string_view text) {
     std::vector<std::string> lines;
     while (!text.empty()) lines.emplace_back(TakeLine(text));
@@ -148,9 +160,8 @@ bool WriteUtf8Lines(const std::string& path, const std::vector<std::string>& lin
 }
 
 bool AppendLine(const std::string& path, const std::string& line) {
-    const auto bytes = ReadBytes(path);
-    const bool openEnd = bytes && !bytes->empty() && !bytes->ends_with('\n');
-    return WriteWith(path, ToWindows1252((openEnd ? "\r\n" : "") + line + "\r\n"), O_APPEND);
+    const char* before = LastLineIsOpen(path) ? "\r\n" : "";
+    return WriteWith(path, ToWindows1252(before + line + "\r\n"), O_APPEND);
 }
 
 bool FileExists(const std::string& path) {
