@@ -68,7 +68,7 @@ void ReadMonth(ClimateLines& lines) {
     std::string_view line = lines.Next();
     const int month = WholeNumber(PlainNumber(TakeUpTo(line, '\t')));
     if (!Within(month, kMonthPlaces)) {
-        lines.Refuse("there is no month" + NumberText(double(month)));
+        lines.Refuse("there is no month " + std::to_string(month));
     }
     auto& places = climateTables.ClimateMonths[static_cast<std::size_t>(month)];
     for (std::size_t place = 1; place <= 3; ++place) places[place] = TakeField(line);
@@ -137,9 +137,9 @@ int DirectionIndex(double direction) {
 float SolarRadiation(int kind, int month, int directionIndex, int tiltIndex,
                      std::string_view element) {
     if (!InSolarTable(kind, directionIndex, tiltIndex) || !Within(month, kMonthPlaces)) {
-        StopRun("glass kind" + NumberText(double(kind)) + ", direction index" +
-                    NumberText(double(directionIndex)) + " or tilt index" +
-                    NumberText(double(tiltIndex)) + " lies outside the radiation table",
+        StopRun("glass kind " + std::to_string(kind) + ", direction index " +
+                    std::to_string(directionIndex) + " or tilt index " + std::to_string(tiltIndex) +
+                    " lies outside the radiation table",
                 element);
     }
     return climateTables.SolarTable[static_cast<std::size_t>(kind)][static_cast<std::size_t>(

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <vector>
 
 #include "app/program_text.h"
@@ -69,27 +70,34 @@ void StoreClimateLabels() {
     }
 }
 
+/// A result at the precision of the tables; one that is too large for it stops the run.
+float Stored(double value, const char* name) {
+    const auto single = static_cast<float>(value);
+    if (!std::isfinite(single)) StopRun(std::string(name) + " is not a finite number");
+    return single;
+}
+
 void StoreMonth(int month) {
     MonthResult& result =
         runResults.MonthResults[runResults.RunPosition][static_cast<std::size_t>(month)];
     result = {};
-    result.Tmin = static_cast<float>(heatBalance.TempGFree);
-    result.Ph = static_cast<float>(heatBalance.HeatDemandG);
-    result.TempOut = static_cast<float>(heatBalance.TempOut);
+    result.Tmin = Stored(heatBalance.TempGFree, "the temperature of the glazed space");
+    result.Ph = Stored(heatBalance.HeatDemandG, "the heat demand of the glazed space");
+    result.TempOut = Stored(heatBalance.TempOut, "the outdoor temperature");
 }
 
 void StoreCase(const Slot& slot) {
     const HeatBalance& balance = heatBalance;
     CaseResult& result = runResults.CaseResults[runResults.RunPosition];
-    result = {static_cast<float>(balance.SetPointG),
-              balance.TdgMean,
-              balance.PowerDemandMax,
-              balance.HeatEnergyMax,
-              balance.CoolEnergyMax,
-              "U",
-              static_cast<float>(balance.TempB),
-              std::nullopt};
-    if (balance.TdgMin) result.TdgMin = static_cast<float>(*balance.TdgMin);
+    result.SetPointG = Stored(balance.SetPointG, "HVACG/HEATING");
+    result.TdgMean = Stored(double(balance.TdgMean), "TDG/TDGMEAN");
+    result.PowerDemandMax = Stored(double(balance.PowerDemandMax), "TDG/POWDEMHEAT");
+    result.HeatEnergyMax = Stored(double(balance.HeatEnergyMax), "TDG/ENERDEMHEAT");
+    result.CoolEnergyMax = Stored(double(balance.CoolEnergyMax), "TDG/ENERDEMCOOL");
+    result.Verdict = "U";
+    result.TempB = Stored(balance.TempB, "the temperature of the building");
+    result.TdgMin.reset();
+    if (balance.TdgMin) result.TdgMin = Stored(*balance.TdgMin, "TDG/TDGMIN");
     ResultCount(slot) = 1;
 }
 

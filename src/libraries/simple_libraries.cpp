@@ -148,8 +148,8 @@ double SunPanelValue(int set, double transmittance, double x) {
     }
     const auto [a, b] = simpleLibraries.SunPanelTable[static_cast<std::size_t>(set)][panes];
     if (a <= 0 || x <= 0) {
-        StopRun("the logarithm of a sun panel coefficient a of" + NumberText(a) +
-                " and an absorptance of" + NumberText(x) + " cannot be taken");
+        StopRun("the logarithm of a sun panel coefficient a of " + TrimmedNumberText(a) +
+                " and an absorptance of " + TrimmedNumberText(x) + " cannot be taken");
     }
     return std::exp(std::log(a) + b * std::log(x));
 }

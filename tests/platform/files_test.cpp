@@ -28,8 +28,10 @@ TEST_F(Files, AreReadWithAnyLineEndAndWrittenWithCrLf) {
     EXPECT_EQ(ReadLines(Path("none")), std::nullopt);
     EXPECT_EQ(ReadBytes(Path("")), std::nullopt) << "a folder is no file";
     ASSERT_TRUE(WriteLines(Path("file"), {"Vägg", "", "−1"}));
-    ASSERT_TRUE(AppendLine(Path("file"), "å"));
-    EXPECT_EQ(Bytes(Path("file")), "V\xE4gg\r\n\r\n?1\r\n\xE5\r\n");
+    EXPECT_EQ(Bytes(Path("file")), "V\xE4gg\r\n\r\n?1\r\n");
+    PutBytes(Path("file"), "a last line without an end");
+    ASSERT_TRUE(AppendLine(Path("file"), "å") && AppendLine(Path("file"), "b"));
+    EXPECT_EQ(Bytes(Path("file")), "a last line without an end\r\n\xE5\r\nb\r\n");
 }
 
 TEST_F(Files, LongerThanTheFirstReadAreReadWhole) {
