@@ -3,6 +3,7 @@
 #include "app/session.h"
 #include "app/settings.h"
 #include "fuzzing.h"
+#include "platform/files.h"
 #include "platform/profile.h"
 #include "text/characters.h"
 #include "text/separators.h"
@@ -21,15 +22,18 @@ bool IsPlain(std::string_view value) {
 }
 
 void CheckFile(std::string_view file, const std::string& value) {
-    WriteScratch(kFile, file);
+    const std::string path = WriteScratch(kFile, file);
     ReadSystemSettings();
     RefusalOfSystemPath(StoredSettings().SystemPath);
+    const std::size_t lines = LinesOf(file).size();
     const auto other = ReadProfile(kFile, kSection, "Language");
     Require(WriteProfile(kFile, kSection, "SystemPath", value), "a value is stored");
     const auto stored = ReadProfile(kFile, "VERANDIS", "systempath");
     Require(stored.has_value(), "a stored value is found");
     if (IsPlain(value)) Require(*stored == value, "a value reads as it was stored");
     Require(ReadProfile(kFile, kSection, "Language") == other, "the other values stay");
+    const std::size_t now = ReadUtf8Lines(path)->size();
+    Require(now >= lines && now <= lines + 2, "a section and a key are all that is added");
 }
 
 }  // namespace
