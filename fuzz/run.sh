@@ -8,7 +8,7 @@ seconds="${1:-20}"
 shift || true
 build="${VERANDIS_BUILD:-build/fuzz}"
 
-need_packages clang cmake ninja-build
+need_packages clang libclang-rt-14-dev cmake ninja-build
 say "Building the fuzzers in $build"
 cmake --preset fuzz -B "$build" >/dev/null
 cmake --build "$build" --target fuzzers --parallel 2
