@@ -33,8 +33,9 @@ void MarkSlots() {
     session.ShowDiagrams = kOff;
     for (const char* label : kMarkedSlots) {
         const Slot slot = SlotOfLabel(label);
-        session.ChkCase[static_cast<std::size_t>(slot.shape)]
-                       [static_cast<std::size_t>(slot.caseNo)] = true;
+        session
+            .ChkCase[static_cast<std::size_t>(slot.shape)][static_cast<std::size_t>(slot.caseNo)] =
+            true;
     }
 }
 

@@ -19,8 +19,8 @@ public:
     /// Folder of the sixteen slots and of their templates.
     std::string Project() const;
 
-    /// Makes one more empty folder beside the data root. Those before it stay: a file system that has
-    /// just deleted many files is slow to make new ones.
+    /// Makes one more empty folder beside the data root. Those before it stay: a file system that
+    /// has just deleted many files is slow to make new ones.
     std::filesystem::path NewFolder();
 
 private:

@@ -95,8 +95,8 @@ bool PrintRatios() {
                 "limit");
     bool kept = true;
     for (const Ratio& each : Ratios()) {
-        std::printf("%-24s %10.2f %10.2f %8.2f %14.2f  ", each.name.c_str(), each.product, each.bare,
-                    each.Value(), each.ofProcessor);
+        std::printf("%-24s %10.2f %10.2f %8.2f %14.2f  ", each.name.c_str(), each.product,
+                    each.bare, each.Value(), each.ofProcessor);
         if (each.limit > 0) std::printf("%.1f %s", each.limit, each.Kept() ? "kept" : "EXCEEDED");
         std::printf("\n");
         kept = kept && each.Kept();

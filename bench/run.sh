@@ -1,13 +1,15 @@
 #!/usr/bin/env bash
 # Builds the benchmarks (release) and runs them; further arguments go to the program. Ends with the
-# ratios and a code other than 0 when a limit is exceeded. $VERANDIS_BUILD names another build folder.
+# ratios and a code other than 0 when a limit is exceeded. $VERANDIS_BUILD names another build
+# folder, $TMPDIR the place of the data root that is measured.
 source "$(dirname "${BASH_SOURCE[0]}")/../tools/common.sh"
 
 build="${VERANDIS_BUILD:-build/bench}"
 
 need_packages g++ cmake ninja-build libbenchmark-dev
 say "Building the benchmarks in $build"
-cmake -G Ninja -B "$build" -DCMAKE_BUILD_TYPE=Release -DVERANDIS_BENCH=ON -DBUILD_TESTING=OFF >/dev/null
+cmake -G Ninja -B "$build" -DCMAKE_BUILD_TYPE=Release -DVERANDIS_BENCH=ON -DBUILD_TESTING=OFF \
+    >/dev/null
 cmake --build "$build" --target verandis_bench --parallel 2
 
 say "Measuring"

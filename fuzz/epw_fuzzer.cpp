@@ -27,8 +27,8 @@ void FillYear(std::vector<std::string>& lines) {
         for (int hour = std::max(span.first, done); hour < span.end; ++hour) {
             const int within = hour - span.first;
             lines.push_back("2001," + std::to_string(month + 1) + "," +
-                            std::to_string(within / 24 + 1) + "," + std::to_string(within % 24 + 1) +
-                            ",0," + values);
+                            std::to_string(within / 24 + 1) + "," +
+                            std::to_string(within % 24 + 1) + ",0," + values);
         }
     }
 }
@@ -53,7 +53,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     using namespace verandis::fuzzing;
     std::vector<std::string> lines = LinesOf(TextOf(data, size));
     auto reading = verandis::ReadEpw(lines);
-    const bool goodSoFar = !reading.rows.empty() && reading.rows.size() + kHeaderLines == lines.size();
+    const bool goodSoFar =
+        !reading.rows.empty() && reading.rows.size() + kHeaderLines == lines.size();
     if (reading.fault && goodSoFar) {
         FillYear(lines);
         reading = verandis::ReadEpw(lines);

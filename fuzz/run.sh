@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Builds the fuzzers and runs each for a bounded time: fuzz/run.sh [seconds [name...]], 20 seconds and
-# all of them when nothing is said. Inputs that break something are left in findings/ of the build
-# folder, and the code is then not 0. $VERANDIS_BUILD names another build folder.
+# Builds the fuzzers and runs each for a bounded time: fuzz/run.sh [seconds [name...]], 20 seconds
+# and all of them when nothing is said. Inputs that break something are left in findings/ of the
+# build folder, and the code is then not 0. $VERANDIS_BUILD names another build folder.
 source "$(dirname "${BASH_SOURCE[0]}")/../tools/common.sh"
 
 seconds="${1:-20}"
@@ -14,10 +14,12 @@ cmake --preset fuzz -B "$build" >/dev/null
 cmake --build "$build" --target fuzzers --parallel 2
 
 # Scratch files live in memory where the machine has such a place.
-scratch="$(mktemp -d -p "$([ -d /dev/shm ] && echo /dev/shm || echo "${TMPDIR:-/tmp}")" verandis.XXXXXX)"
+place="${TMPDIR:-/tmp}"
+[ -d /dev/shm ] && place=/dev/shm
+scratch="$(mktemp -d -p "$place" verandis.XXXXXX)"
 trap 'rm -rf "$scratch"' EXIT
 
-# Whole libraries and climate files are longer than a line or a number.
+# Bytes of the longest input: whole files are longer than a line or a number.
 longest() {
     case "$1" in
         numbers | encoding) echo 256 ;;

@@ -32,12 +32,14 @@ bool IsDataRoot(const std::string& folder) {
     return FileExists(JoinPath(JoinPath(folder, "PROJECT"), kProjectListName));
 }
 
-std::string MakeDataRoot(const std::string& folder) {
+std::string MakeDataRoot(const std::string& named) {
+    const std::string folder = named.empty() ? named : AbsolutePath(named);
     const std::string complaint = SystemPathComplaint(folder);
     if (!complaint.empty()) return complaint + ": " + folder;
     if (IsDataRoot(folder)) return "The folder holds the data already: " + folder;
     const std::string delivered = DeliveredFolder();
-    if (delivered.empty()) return "The delivered data are missing beside the program";
+    if (!FolderExists(JoinPath(delivered, "PROJECT")))
+        return "The delivered data are missing beside the program";
     for (const char* each : kFolders) {
         const std::string target = JoinPath(folder, each);
         if (!MakeFolders(target)) return "The folder cannot be made: " + target;

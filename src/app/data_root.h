@@ -14,6 +14,6 @@ bool IsDataRoot(const std::string& folder);
 /// Makes a data root from the delivered data and writes the line of the project of the slots. An
 /// empty text when done, else what is wrong, as one sentence. Refuses a folder that holds a data
 /// root already, so that nothing of it is lost.
-std::string MakeDataRoot(const std::string& folder);
+std::string MakeDataRoot(const std::string& named);
 
 }  // namespace verandis

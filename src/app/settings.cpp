@@ -51,7 +51,7 @@ constexpr Refusal kTooLong = {448, "The folder name is longer than 48 characters
 
 std::optional<Refusal> Refused(const std::string& path) {
     if (TrimBlanks(path).empty()) return kNoFolder;
-    if (path.find(' ') != std::string::npos) return kHoldsBlank;
+    if (path.find_first_of(" \t\r\n") != std::string::npos) return kHoldsBlank;
     if (!IsAscii(path)) return kNotAscii;
     if (Length(path) > kLongestSystemPath) return kTooLong;
     return std::nullopt;

@@ -48,14 +48,16 @@ void NameClimateOfThisMachine() {
 }
 
 bool CopyTemplate(int shape) {
+    // The templates of the property files would only be deleted again.
+    const auto leaveOut = [&](const std::string& name) { return IsTemplateName(shape, name); };
     const auto source = FindCase(std::string(WordsOf(shape).word));
-    bool all = source && CopyCase2(*source, SlotFolderName({shape, 1}));
+    bool all = source && CopyCase2(*source, SlotFolderName({shape, 1}), leaveOut);
     const auto first = FindCase(SlotCaseName({shape, 1}));
     if (!first) return false;
     OpenCase(*first);
     NameClimateOfThisMachine();
     for (int number = 2; number <= kCasesPerShape; ++number) {
-        all = CopyCase2(*first, SlotFolderName({shape, number})) && all;
+        all = CopyCase2(*first, SlotFolderName({shape, number}), leaveOut) && all;
     }
     return all;
 }

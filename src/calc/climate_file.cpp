@@ -59,19 +59,22 @@ private:
     int number_ = 0;
 };
 
-/// The number in front of the next TAB; a point is the decimal sign, whatever the session's is.
-float TakeField(std::string_view& line) {
-    return static_cast<float>(PlainNumber(TakeUpTo(line, '\t')));
+/// The numbers of a line, parted by TABs; a point is the decimal sign, whatever the session's is.
+template <std::size_t count>
+std::array<double, count> NumbersOf(std::string_view line) {
+    std::array<double, count> numbers;
+    FieldNumbers(line, '\t', numbers);
+    return numbers;
 }
 
 void ReadMonth(ClimateLines& lines) {
-    std::string_view line = lines.Next();
-    const int month = WholeNumber(PlainNumber(TakeUpTo(line, '\t')));
+    const auto [number, first, second, third] = NumbersOf<4>(lines.Next());
+    const int month = WholeNumber(number);
     if (!Within(month, kMonthPlaces)) {
         lines.Refuse("there is no month " + std::to_string(month));
     }
-    auto& places = climateTables.ClimateMonths[static_cast<std::size_t>(month)];
-    for (std::size_t place = 1; place <= 3; ++place) places[place] = TakeField(line);
+    climateTables.ClimateMonths[static_cast<std::size_t>(month)] = {
+        0, static_cast<float>(first), static_cast<float>(second), static_cast<float>(third)};
 }
 
 /// The place of a block in the radiation table.
@@ -82,9 +85,10 @@ struct BlockPlace {
 };
 
 BlockPlace PlaceOf(std::string_view header, const ClimateLines& lines) {
-    const int kind = WholeNumber(PlainNumber(TakeUpTo(header, '\t')));
-    const int tilt = TiltIndex(PlainNumber(TakeUpTo(header, '\t')));
-    const int direction = DirectionIndex(WholeNumber(PlainNumber(header)));
+    const auto [kindNumber, tiltNumber, directionNumber] = NumbersOf<3>(header);
+    const int kind = WholeNumber(kindNumber);
+    const int tilt = TiltIndex(tiltNumber);
+    const int direction = DirectionIndex(WholeNumber(directionNumber));
     if (!InSolarTable(kind, direction, tilt)) {
         lines.Refuse("glass kind, tilt or direction lies outside the radiation table");
     }
@@ -98,10 +102,10 @@ bool ReadBlock(ClimateLines& lines) {
     const std::string_view header = lines.Next();
     if (header == kLastLine || lines.AtEnd()) return false;
     const BlockPlace place = PlaceOf(header, lines);
-    std::string_view values = lines.Next();
+    const auto values = NumbersOf<kMonthPlaces - 1>(lines.Next());
     auto& months = climateTables.SolarTable[place.kind];
     for (std::size_t month = 1; month < kMonthPlaces; ++month) {
-        months[month][place.direction][place.tilt] = TakeField(values);
+        months[month][place.direction][place.tilt] = static_cast<float>(values[month - 1]);
     }
     return true;
 }
@@ -166,9 +170,8 @@ std::string ClimateFilePath() {
 }
 
 void ReadClimateFile() {
-    static std::string bytes;
     const std::string path = ClimateFilePath();
-    if (ReadBytesInto(path, bytes)) ReadClimateBytes(bytes, path);
+    if (const auto bytes = ReadView(path)) ReadClimateBytes(*bytes, path);
 }
 
 }  // namespace verandis

@@ -1,7 +1,6 @@
 #include "case/property_file.h"
 
 #include <algorithm>
-#include <functional>
 #include <optional>
 #include <vector>
 
@@ -49,18 +48,34 @@ std::string_view LineAround(std::string_view text, std::size_t at) {
 
 /// The first line of `lower` that holds both words, whatever their order.
 std::optional<std::string_view> FirstLineWith(std::string_view lower, const Words& words) {
-    const std::boyer_moore_horspool_searcher section(words.section.begin(), words.section.end());
-    auto from = lower.begin();
+    std::size_t from = 0;
     while (true) {
-        const auto hit = std::search(from, lower.end(), section);
-        if (hit == lower.end() && !words.section.empty()) return std::nullopt;
-        const std::string_view line =
-            LineAround(lower, static_cast<std::size_t>(hit - lower.begin()));
+        const std::size_t hit = lower.find(words.section, from);
+        if (hit == std::string_view::npos) return std::nullopt;
+        const std::string_view line = LineAround(lower, hit);
         if (line.find(words.key) != std::string_view::npos) return line;
-        from = lower.begin() + (line.data() + line.size() - lower.data());
-        if (from == lower.end()) return std::nullopt;
-        ++from;
+        from = static_cast<std::size_t>(line.data() + line.size() - lower.data()) + 1;
+        if (from > lower.size()) return std::nullopt;
     }
+}
+
+/// The same line as it stands in the file. The file is taken in blocks of whole lines, since most
+/// reads find their row in the first of them.
+std::optional<std::string_view> FindLine(std::string_view bytes, const Words& words) {
+    constexpr std::size_t kBlock = 640;
+    static std::string lower;  // its memory serves every read
+    while (!bytes.empty()) {
+        const std::size_t end = bytes.find('\n', std::min(kBlock, bytes.size()));
+        const std::string_view block = bytes.substr(0, end);
+        LowerWindows1252(block, lower);
+        if (const auto found = FirstLineWith(lower, words)) {
+            const auto start = static_cast<std::size_t>(found->data() - lower.data());
+            return block.substr(start, found->size());
+        }
+        if (end == std::string_view::npos) return std::nullopt;
+        bytes.remove_prefix(end + 1);
+    }
+    return std::nullopt;
 }
 
 std::string_view WithoutLineEnd(std::string_view line) {
@@ -84,21 +99,17 @@ void GetCaseProperty(std::string_view section, std::string_view key, std::string
         value = staged->value;
         return;
     }
-    static std::string bytes;  // their memory serves every read
-    static std::string lower;
-    if (!ReadBytesInto(PropertyFilePath(), bytes)) {
+    const auto bytes = ReadView(PropertyFilePath());
+    if (!bytes) {
         ShowMessage(kMissingFile);
         return;
     }
-    LowerWindows1252(bytes, lower);
-    const auto found = FirstLineWith(lower, SearchWords(section, key));
-    if (!found) {
+    const auto line = FindLine(*bytes, SearchWords(section, key));
+    if (line) {
+        value = FromWindows1252(RightOfSeparator(WithoutLineEnd(*line), "\t"));
+    } else {
         value = kNotSet;
-        return;
     }
-    const auto start = static_cast<std::size_t>(found->data() - lower.data());
-    const std::string_view line(bytes.data() + start, found->size());
-    value = FromWindows1252(RightOfSeparator(WithoutLineEnd(line), "\t"));
 }
 
 bool SetCaseProperty(const std::string& section, const std::string& key, const std::string& value) {
@@ -132,10 +143,13 @@ void StageCaseProperty(const std::string& section, const std::string& key,
     session.CasePropertyTable.push_back({section, key, value});
 }
 
-void FlushStagedProperties() {
-    const std::vector<StagedProperty> rows = session.CasePropertyTable;
-    for (const StagedProperty& row : rows) SetCaseProperty(row.section, row.key, row.value);
+bool FlushStagedProperties() {
+    for (const StagedProperty& row : session.CasePropertyTable) {
+        const bool stored = SetCaseProperty(row.section, row.key, row.value);
+        if (!stored && FileExists(PropertyFilePath())) return false;
+    }
     DiscardStagedProperties();
+    return true;
 }
 
 void DiscardStagedProperties() {

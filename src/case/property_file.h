@@ -31,8 +31,9 @@ bool SetCaseProperty(const std::string& section, const std::string& key, const s
 void StageCaseProperty(const std::string& section, const std::string& key,
                        const std::string& value);
 
-/// Stores all staged rows in order and empties the table.
-void FlushStagedProperties();
+/// Stores all staged rows in order and empties the table. Stops at the first that cannot be
+/// written, after its message, and keeps them all; a missing file takes them without a word.
+bool FlushStagedProperties();
 
 /// Empties the table of staged edits without storing.
 void DiscardStagedProperties();

@@ -38,7 +38,8 @@ void CopyPart(const Lines& lines, const std::string& target, char shapeLetter,
     if (begin == lines.end()) return;
     const auto end = std::find_if(
         begin + 1, lines.end(), [](const std::string& line) { return line.starts_with(kPartEnd); });
-    WriteLines(target, Lines(begin + 1, end));
+    const Lines part(begin + 1, end);
+    if (ReadLines(target) != part) WriteLines(target, part);
 }
 
 std::string InProject(std::string_view folder, std::string_view file) {
@@ -68,6 +69,13 @@ std::string TemplateName(int shape, int caseNo) {
     return "SimpPropertiesOfCase" + SlotLabel({shape, caseNo}) + ".Dat";
 }
 
+bool IsTemplateName(int shape, std::string_view fileName) {
+    for (int number = 1; number <= kCasesPerShape; ++number) {
+        if (EqualNoCase(fileName, TemplateName(shape, number))) return true;
+    }
+    return false;
+}
+
 void InstallSlotFiles(int shape) {
     if (!IsShape(shape)) return;
     for (int number = 1; number <= kCasesPerShape; ++number) {
@@ -80,9 +88,9 @@ void InstallSlotFiles(int shape) {
 void RemoveSlotTemplates(int shape) {
     if (!IsShape(shape)) return;
     for (int number = 1; number <= kCasesPerShape; ++number) {
-        const std::string folder = SlotFolderName({shape, number});
-        for (int each = 1; each <= kCasesPerShape; ++each) {
-            DeleteFile(InProject(folder, TemplateName(shape, each)));
+        const std::string folder = JoinPath(session.ProjectFolder, SlotFolderName({shape, number}));
+        for (const std::string& name : ListFolder(folder)) {
+            if (IsTemplateName(shape, name)) DeleteFile(JoinPath(folder, name));
         }
     }
 }

@@ -27,12 +27,15 @@ void SplitDynamicFiles(const std::string& source);
 /// Name of the property template of a slot: "SimpPropertiesOfCaseU1.Dat".
 std::string TemplateName(int shape, int caseNo);
 
+/// True for the names of a shape's four property templates, in any letter case.
+bool IsTemplateName(int shape, std::string_view fileName);
+
 /// Copies the property templates of a shape's slots from the family's folder over the slots'
 /// property files. A missing template leaves its slot as it is.
 void InstallSlotFiles(int shape);
 
-/// Deletes the four property templates that the copying of the template case brought into each
-/// slot folder of the shape.
+/// Deletes the four property templates from each slot folder of the shape, where a copy of the
+/// template case has brought them.
 void RemoveSlotTemplates(int shape);
 
 }  // namespace verandis

@@ -26,7 +26,7 @@ void AddBlocks(const ClimateYear& year, std::size_t kind, std::vector<std::strin
         std::string values;
         for (std::size_t month = 0; month < 12; ++month) {
             if (month > 0) values += "\t";
-            values += FixedText(year.sums[at][kind][month], 3);
+            values += FixedText(year.sums[at][kind][month], 2);
         }
         lines.push_back(values);
     }

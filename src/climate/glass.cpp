@@ -8,8 +8,8 @@
 namespace verandis {
 namespace {
 
-/// Ordinary float glass of 4 mm with an extinction of 25 1/m, as the delivered reference windows: at
-/// normal incidence one, two and three panes pass 0.83, 0.69 and 0.58 of the sun.
+/// Ordinary float glass of 4 mm with an extinction of 25 1/m, as the delivered reference windows:
+/// at normal incidence one, two and three panes pass 0.83, 0.69 and 0.58 of the sun.
 constexpr double kRefractiveIndex = 1.526;
 constexpr double kExtinctionTimesThickness = 0.1;
 constexpr double kGrazingCosine = 1e-6;  // below it every surface reflects all light

@@ -141,8 +141,8 @@ bool RoomForType(TypeKind kind, const TextTable& table) {
 }
 
 int AddNamedType(TypeKind kind, TextTable& table) {
-    const int row = table.AddRow();
-    table.SetCell(row, 1, " ");
+    *table.AddRow() = " ";
+    const int row = table.rows();
     const std::string prompt = Text(105) + "\r\n" + Text(106) +
                                NumberText(double(kShortestTypeName)) + ", " + Text(108) +
                                NumberText(double(kLongestTypeName)) + Text(107);

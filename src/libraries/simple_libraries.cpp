@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <cstdlib>
+#include <optional>
 
 #include "app/run_stop.h"
 #include "app/session.h"
@@ -27,18 +28,17 @@ constexpr const char* kUnknownPanes = " Glazing not found, default used = 0.5";
 constexpr double kDefaultReference = 0.5;
 constexpr int kSunPanelHeadings = 3;
 
-/// The file's bytes in a memory that serves every reading; false after the message.
-bool ReadLibrary(const char* name, std::string& bytes) {
-    if (ReadBytesInto(JoinPath(session.ProjectFolder, name), bytes)) return true;
-    ShowMessage(kMissingLibrary);
-    return false;
+/// The file's bytes until the next reading; nothing after the message.
+std::optional<std::string_view> ReadLibrary(const char* name) {
+    const auto bytes = ReadView(JoinPath(session.ProjectFolder, name));
+    if (!bytes) ShowMessage(kMissingLibrary);
+    return bytes;
 }
 
 bool ReadTable(const char* name, TextTable& table) {
-    static std::string bytes;
-    if (!ReadLibrary(name, bytes)) return false;
-    ReadLibraryRecords(bytes, table);
-    return true;
+    const auto bytes = ReadLibrary(name);
+    if (bytes) ReadLibraryRecords(*bytes, table);
+    return bytes.has_value();
 }
 
 /// The cell of the named type; row 1 when the name is not set or, after the message, unknown.
@@ -73,13 +73,13 @@ void ReadWalls() {
 
 void ReadSunPanel() {
     ReadRefWindows();
-    static std::string bytes;
-    if (!ReadLibrary("SimpSunPanel.lib", bytes)) return;
+    const auto bytes = ReadLibrary("SimpSunPanel.lib");
+    if (!bytes) return;
     if (simpleLibraries.MaxPanes > kMostPanes) {
         StopRun("the reference windows have " + std::to_string(simpleLibraries.MaxPanes) +
                 " panes; the sun panel table holds " + std::to_string(kMostPanes));
     }
-    std::string_view rest = bytes;
+    std::string_view rest = *bytes;
     for (int line = 0; line < kSunPanelHeadings; ++line) TakeLine(rest);
     simpleLibraries.SunPanelTable = {};
     for (std::size_t set = 1; set <= kShapeCount; ++set) {

@@ -25,12 +25,13 @@ void TextTable::SetCell(int row, int column, std::string_view text) {
     cells_[Index(row, column)].assign(text);
 }
 
-int TextTable::AddRow() {
+std::string* TextTable::AddRow() {
     ++rows_;
     const auto needed = static_cast<std::size_t>(rows_ * columns_);
     if (cells_.size() < needed) cells_.resize(needed);
-    for (int column = 1; column <= columns_; ++column) cells_[Index(rows_, column)].clear();
-    return rows_;
+    std::string* const row = cells_.data() + needed - static_cast<std::size_t>(columns_);
+    for (int column = 0; column < columns_; ++column) row[column].clear();
+    return row;
 }
 
 void TextTable::RemoveRow(int row) {
@@ -64,12 +65,12 @@ void ReadLibraryRecords(std::string_view bytes, TextTable& table) {
     table.Clear();
     while (!bytes.empty()) {
         std::string_view record = TrimBlanks(TakeLine(bytes));
-        record = RightOfSeparator(record, "\t");  // the ID is not kept
-        const int row = table.AddRow();
+        TakeUpTo(record, '\t');  // the ID is not kept; a record without a TAB is nothing but an ID
+        std::string* cell = table.AddRow();
         for (int column = 1; column < table.columns(); ++column) {
-            table.SetCell(row, column, TakeUpTo(record, '\t'));
+            (cell++)->assign(TakeUpTo(record, '\t'));
         }
-        table.SetCell(row, table.columns(), record);
+        cell->assign(record);
     }
 }
 

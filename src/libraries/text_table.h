@@ -18,8 +18,8 @@ public:
     const std::string& Cell(int row, int column) const;
     void SetCell(int row, int column, std::string_view text);
 
-    /// Adds a row of empty cells at the end and returns its number.
-    int AddRow();
+    /// Adds a row of empty cells at the end and gives them, in order, until the next change.
+    std::string* AddRow();
 
     /// Removes a row and closes the gap upward.
     void RemoveRow(int row);

@@ -17,6 +17,14 @@ std::uint32_t CodePointOf(unsigned char byte) {
     return byte >= 0x80 && byte <= 0x9F ? kUpperControls[byte - 0x80u] : byte;
 }
 
+/// Lower case of a byte above ASCII; all others stay.
+char LowerHighByte(char letter) {
+    const auto byte = static_cast<unsigned char>(letter);
+    if (byte >= 0xC0 && byte <= 0xDE && byte != 0xD7) return static_cast<char>(byte + 0x20);
+    if (byte == 0x8A || byte == 0x8C || byte == 0x8E) return static_cast<char>(byte + 0x10);
+    return byte == 0x9F ? static_cast<char>(0xFF) : letter;
+}
+
 /// The byte of a code point, "?" when there is none.
 char ByteOf(std::uint32_t code) {
     if (code < 0x80 || (code > 0x9F && code <= 0xFF)) return static_cast<char>(code);
@@ -51,6 +59,10 @@ std::uint32_t TakeCodePoint(std::string_view& text) {
         sound = (next & 0xC0u) == 0x80u;
         code = (code << 6) | (next & 0x3Fu);
     }
+    // A longer form than needed, half of a pair and what lies beyond Unicode are no characters.
+    constexpr std::uint32_t kLeast[] = {0, 0, 0x80, 0x800, 0x10000};
+    sound = sound && code >= kLeast[length] && code <= 0x10FFFF &&
+            (code < 0xD800 || code > 0xDFFF) && first <= 0xF4;
     text.remove_prefix(sound ? length : 1);
     return sound ? code : 0xFFFDu;
 }
@@ -65,16 +77,19 @@ bool IsAscii(std::string_view text) {
 
 void LowerWindows1252(std::string_view bytes, std::string& lower) {
     lower.resize(bytes.size());
-    // Plain comparisons without branches, which the compiler turns into wide instructions: the
-    // property file is searched some hundred times in a run.
+    const auto* in = reinterpret_cast<const unsigned char*>(bytes.data());
+    auto* out = reinterpret_cast<unsigned char*>(lower.data());
+    // Plain comparisons of bytes through local pointers, which the compiler turns into wide
+    // instructions: the property file is searched some hundred times in a run.
+    unsigned char all = 0;
     for (std::size_t at = 0; at < bytes.size(); ++at) {
-        const auto byte = static_cast<unsigned char>(bytes[at]);
-        const bool ascii = static_cast<unsigned char>(byte - 'A') < 26;
-        const bool latin = static_cast<unsigned char>(byte - 0xC0) < 31 && byte != 0xD7;
-        const bool odd = byte == 0x8A || byte == 0x8C || byte == 0x8E;
-        const int step = (ascii || latin ? 0x20 : 0) + (odd ? 0x10 : 0) + (byte == 0x9F ? 0x60 : 0);
-        lower[at] = static_cast<char>(byte + step);
+        const unsigned char byte = in[at];
+        const bool letter = static_cast<unsigned char>(byte - 'A') < 26;
+        all = static_cast<unsigned char>(all | byte);
+        out[at] = static_cast<unsigned char>(byte + (letter ? 0x20 : 0));
     }
+    if (all < 0x80) return;
+    for (char& byte : lower) byte = LowerHighByte(byte);
 }
 
 std::string FromWindows1252(std::string_view bytes) {

@@ -20,33 +20,34 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Opens for reading; a remembered spelling that no longer opens is searched anew once.
+/// Opens for reading; a remembered spelling that does not open is searched anew once.
 int OpenForReading(const std::string& path) {
     const int file = ::open(RememberedSpelling(path).c_str(), O_RDONLY | O_CLOEXEC);
-    if (file >= 0 || errno != ENOENT) return file;
-    ForgetSpelling(path);
-    const std::string found = FindSpelling(path);
-    return ::open(found.c_str(), O_RDONLY | O_CLOEXEC);
+    if (file >= 0 || (errno != ENOENT && errno != ENOTDIR)) return file;
+    return ::open(FindSpellingAnew(path).c_str(), O_RDONLY | O_CLOEXEC);
+}
+
+/// The memory that serves every reading; it grows to the largest file and is never cleared.
+std::vector<char>& ReadingBuffer() {
+    static std::vector<char> buffer(std::size_t(64) * 1024);
+    return buffer;
 }
 
 /// Reads to the end. A read of a regular file that gives less than was asked for has reached its
 /// end, which saves the extra call that would tell the same.
-bool ReadAll(int file, std::string& bytes) {
-    constexpr std::size_t kFirst = std::size_t(16) * 1024;
-    if (bytes.capacity() < kFirst) bytes.reserve(kFirst);
-    bytes.resize(bytes.capacity());
+std::optional<std::string_view> ReadAll(int file) {
+    std::vector<char>& buffer = ReadingBuffer();
     std::size_t used = 0;
     while (true) {
-        const std::size_t room = bytes.size() - used;
-        const ssize_t count = ::read(file, bytes.data() + used, room);
+        const std::size_t room = buffer.size() - used;
+        const ssize_t count = ::read(file, buffer.data() + used, room);
         if (count < 0 && errno == EINTR) continue;
-        if (count < 0) return false;
+        if (count < 0) return std::nullopt;
         used += static_cast<std::size_t>(count);
         if (static_cast<std::size_t>(count) < room) break;
-        bytes.resize(bytes.size() * 2);
+        buffer.resize(buffer.size() * 2);
     }
-    bytes.resize(used);
-    return true;
+    return std::string_view(buffer.data(), used);
 }
 
 bool WriteAll(int file, std::string_view bytes) {
@@ -59,12 +60,20 @@ bool WriteAll(int file, std::string_view bytes) {
     return true;
 }
 
-bool WriteWith(const std::string& path, std::string_view bytes, int flags) {
-    ForgetSpelling(path);
-    const std::string target = FindSpelling(path);
-    const int file = ::open(target.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC | flags, 0666);
+enum class WriteMode { Replace, Append };
+
+bool WriteWith(const std::string& path, std::string_view bytes, WriteMode mode) {
+    const std::string target = SpellingToWrite(path);
+    const int flags = O_WRONLY | O_CREAT | O_CLOEXEC | (mode == WriteMode::Append ? O_APPEND : 0);
+    const int file = ::open(target.c_str(), flags, 0666);
     if (file < 0) return false;
-    const bool written = WriteAll(file, bytes);
+    bool written = WriteAll(file, bytes);
+    if (mode == WriteMode::Replace && written) {
+        // Cut behind the new content, not emptied before: a file that was emptied is flushed to the
+        // disk when it is closed, which takes longer than a whole calculation.
+        const int cut = ::ftruncate(file, static_cast<off_t>(bytes.size()));
+        written = cut == 0 || errno == EINVAL;  // a device has no length
+    }
     return ::close(file) == 0 && written;
 }
 
@@ -117,37 +126,35 @@ mode_t ModeOf(const std::string& realPath, bool followLinks) {
 
 }  // namespace
 
-bool ReadBytesInto(const std::string& path, std::string& bytes) {
+std::optional<std::string_view> ReadView(const std::string& path) {
     const int file = OpenForReading(path);
-    if (file < 0) {
-        bytes.clear();
-        return false;
-    }
-    const bool read = ReadAll(file, bytes);
+    if (file < 0) return std::nullopt;
+    const auto bytes = ReadAll(file);
     ::close(file);
-    if (!read) bytes.clear();
-    return read;
-}
-
-std::optional<std::string> ReadBytes(const std::string& path) {
-    std::string bytes;
-    if (!ReadBytesInto(path, bytes)) return std::nullopt;
     return bytes;
 }
 
+std::optional<std::string> ReadBytes(const std::string& path) {
+    const auto bytes = ReadView(path);
+    if (!bytes) return std::nullopt;
+    return std::string(*bytes);
+}
+
 bool WriteBytes(const std::string& path, std::string_view bytes) {
-    return WriteWith(path, bytes, O_TRUNC);
+    return WriteWith(path, bytes, WriteMode::Replace);
 }
 
 std::optional<std::vector<std::string>> ReadLines(const std::string& path) {
-    const auto bytes = ReadBytes(path);
+    const auto bytes = ReadView(path);
     if (!bytes) return std::nullopt;
     return SplitLines(FromWindows1252(*bytes));
 }
 
 std::optional<std::vector<std::string>> ReadUtf8Lines(const std::string& path) {
-    const auto bytes = ReadBytes(path);
+    constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+    auto bytes = ReadView(path);
     if (!bytes) return std::nullopt;
+    if (bytes->starts_with(kByteOrderMark)) bytes->remove_prefix(kByteOrderMark.size());
     return SplitLines(*bytes);
 }
 
@@ -161,7 +168,7 @@ bool WriteUtf8Lines(const std::string& path, const std::vector<std::string>& lin
 
 bool AppendLine(const std::string& path, const std::string& line) {
     const char* before = LastLineIsOpen(path) ? "\r\n" : "";
-    return WriteWith(path, ToWindows1252(before + line + "\r\n"), O_APPEND);
+    return WriteWith(path, ToWindows1252(before + line + "\r\n"), WriteMode::Append);
 }
 
 bool FileExists(const std::string& path) {
@@ -203,15 +210,12 @@ std::vector<std::string> ListFiles(const std::string& folder, std::string_view p
 }
 
 bool CopyFile(const std::string& source, const std::string& target) {
-    static std::string bytes;
-    if (!ReadBytesInto(source, bytes)) return false;
-    return WriteBytes(target, bytes);
+    const auto bytes = ReadView(source);
+    return bytes && WriteBytes(target, *bytes);
 }
 
 bool DeleteFile(const std::string& path) {
-    const bool gone = ::unlink(FindSpelling(path).c_str()) == 0;
-    ForgetSpelling(path);
-    return gone;
+    return ::unlink(SpellingToWrite(path).c_str()) == 0;
 }
 
 void DeleteFiles(const std::string& folder, std::string_view pattern) {
@@ -236,7 +240,8 @@ bool Rename(const std::string& path, const std::string& newName) {
     const std::string source = FindSpelling(path);
     const std::string target = JoinPath(FolderOf(source), newName);
     const bool onlyCase = EqualNoCase(NameOf(source), newName);
-    if (!onlyCase && ModeOf(FindSpelling(target), false) != 0) return false;
+    const std::string taken = onlyCase ? target : FindSpelling(target);
+    if (taken != source && ModeOf(taken, false) != 0) return false;
     const bool renamed = ::rename(source.c_str(), target.c_str()) == 0;
     ForgetSpellings();
     return renamed;

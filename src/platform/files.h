@@ -16,9 +16,8 @@ namespace verandis {
 /// The bytes of a file as they stand on disk; nothing when it cannot be opened.
 std::optional<std::string> ReadBytes(const std::string& path);
 
-/// Reads the bytes of a file into `bytes`, whose memory is used again from call to call.
-/// False when the file cannot be opened; `bytes` is empty then.
-bool ReadBytesInto(const std::string& path, std::string& bytes);
+/// The same without a copy: the view holds until the next reading of any file.
+std::optional<std::string_view> ReadView(const std::string& path);
 
 /// Replaces a file by these bytes; the folder must exist. False when not every byte could be
 /// written.

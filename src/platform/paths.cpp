@@ -8,11 +8,19 @@
 namespace verandis {
 namespace {
 
-constexpr std::string_view kSeparators = "/\\";
+/// Place behind the last separator of either sign, 0 when there is none.
+std::size_t NamePlace(std::string_view path) {
+    std::size_t at = path.size();
+    while (at > 0 && path[at - 1] != '/' && path[at - 1] != '\\') --at;
+    return at;
+}
 
 std::string Comparable(std::string_view path) {
     std::string text = LowerCase(WithMachineSeparators(WithoutDrive(path)));
-    while (text.size() > 1 && text.ends_with('/')) text.pop_back();
+    const auto repeated =
+        std::unique(text.begin(), text.end(), [](char a, char b) { return a == '/' && b == '/'; });
+    text.erase(repeated, text.end());
+    if (text.size() > 1 && text.ends_with('/')) text.pop_back();
     return text;
 }
 
@@ -38,13 +46,12 @@ std::string_view WithoutDrive(std::string_view path) {
 }
 
 std::string_view FolderOf(std::string_view path) {
-    const std::size_t last = path.find_last_of(kSeparators);
-    return last == std::string_view::npos ? std::string_view{} : path.substr(0, last);
+    const std::size_t name = NamePlace(path);
+    return name == 0 ? std::string_view{} : path.substr(0, name - 1);
 }
 
 std::string_view NameOf(std::string_view path) {
-    const std::size_t last = path.find_last_of(kSeparators);
-    return last == std::string_view::npos ? path : path.substr(last + 1);
+    return path.substr(NamePlace(path));
 }
 
 bool LiesIn(std::string_view path, std::string_view folder) {

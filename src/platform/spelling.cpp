@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <system_error>
 #include <unordered_map>
@@ -16,9 +17,18 @@ namespace {
 
 namespace fs = std::filesystem;
 
+struct TextHash {
+    using is_transparent = void;
+    std::size_t operator()(std::string_view text) const {
+        return std::hash<std::string_view>()(text);
+    }
+};
+using SpellingMap = std::unordered_map<std::string, std::string, TextHash, std::equal_to<>>;
+
 struct Spellings {
     std::string root;
-    std::unordered_map<std::string, std::string> known;
+    SpellingMap folders;  // real folder by the folder as asked for
+    SpellingMap files;    // real path of those files alone whose name has another spelling
 };
 
 Spellings& State() {
@@ -28,6 +38,11 @@ Spellings& State() {
 
 /// More paths than one run touches; reaching it only costs a new search.
 constexpr std::size_t kMostRemembered = 512;
+
+void Remember(SpellingMap& map, std::string_view asked, const std::string& found) {
+    if (map.size() >= kMostRemembered) map.clear();
+    map.insert_or_assign(std::string(asked), found);
+}
 
 bool Exists(const std::string& path) {
     return ::access(path.c_str(), F_OK) == 0;
@@ -81,20 +96,47 @@ std::string FindSpelling(std::string_view path) {
     return found;
 }
 
-const std::string& RememberedSpelling(const std::string& path) {
-    auto& known = State().known;
-    const auto place = known.find(path);
-    if (place != known.end()) return place->second;
-    if (known.size() >= kMostRemembered) known.clear();
-    return known.emplace(path, FindSpelling(path)).first->second;
+std::string RememberedSpelling(std::string_view path) {
+    const std::string_view folder = FolderOf(path);
+    if (folder.empty()) return FindSpelling(path);
+    auto& folders = State().folders;
+    auto place = folders.find(folder);
+    if (place == folders.end()) {
+        Remember(folders, folder, FindSpelling(folder));
+        place = folders.find(folder);
+    }
+    return JoinPath(place->second, NameOf(path));
 }
 
-void ForgetSpelling(const std::string& path) {
-    State().known.erase(path);
+std::string FindSpellingAnew(const std::string& path) {
+    auto& files = State().files;
+    const auto known = files.find(path);
+    if (known != files.end() && Exists(known->second)) return known->second;
+    State().folders.erase(std::string(FolderOf(path)));
+    const std::string found = FindSpelling(path);
+    Remember(files, path, found);
+    return found;
+}
+
+std::string SpellingToWrite(std::string_view path) {
+    const std::string remembered = RememberedSpelling(path);
+    if (Exists(remembered)) return remembered;
+    const std::string folder(FolderOf(remembered));
+    if (folder.empty() || !Exists(folder)) return FindSpelling(path);
+    return JoinPath(folder, NameInFolder(folder, std::string(NameOf(path))));
+}
+
+void RecheckSpelling(const std::string& folder) {
+    auto& folders = State().folders;
+    const auto place = folders.find(folder);
+    if (place == folders.end()) return;
+    const std::string asked = WithRootSpelling(WithMachineSeparators(WithoutDrive(folder)));
+    if (asked != place->second && Exists(asked)) ForgetSpellings();
 }
 
 void ForgetSpellings() {
-    State().known.clear();
+    State().folders.clear();
+    State().files.clear();
 }
 
 }  // namespace verandis

@@ -15,13 +15,21 @@ void SetRootSpelling(std::string_view root);
 /// byte order that is equal without regard to letter case, else the name as given.
 std::string FindSpelling(std::string_view path);
 
-/// As `FindSpelling`, but remembers what it found. The caller tells by `ForgetSpelling` when the
-/// remembered file is not there any more.
-const std::string& RememberedSpelling(const std::string& path);
+/// As `FindSpelling`, with what is remembered of the folder: for a path that is to be written.
+std::string SpellingToWrite(std::string_view path);
 
-/// Drops what is remembered: of one path, or of all. Every operation that makes, removes or renames
-/// calls it, and so does the opening of a case, so that changes by other programs are seen.
-void ForgetSpelling(const std::string& path);
+/// The remembered real folder and the name as given: for a path that is to be read. When nothing is
+/// there the caller asks `FindSpellingAnew`.
+std::string RememberedSpelling(std::string_view path);
+
+/// Searches a path whose remembered spelling is not there, and remembers what it finds.
+std::string FindSpellingAnew(const std::string& path);
+
+/// Forgets what is remembered of a folder when another program has made the exact name since. Only
+/// this kind of change is not seen by itself: a folder that is gone is searched anew.
+void RecheckSpelling(const std::string& folder);
+
+/// Drops all that is remembered; every operation that makes, removes or renames a folder calls it.
 void ForgetSpellings();
 
 }  // namespace verandis

@@ -58,6 +58,12 @@ bool IsHidden(const CaseRow& row) {
                        [&](std::string_view name) { return LowerCase(row.name) == name; });
 }
 
+bool IsResultFile(const std::string& name) {
+    const std::string lower = LowerCase(name);
+    return std::any_of(std::begin(kResultEndings), std::end(kResultEndings),
+                       [&](std::string_view ending) { return lower.ends_with(ending); });
+}
+
 void CopyWallLibrary(const std::string& caseFolder) {
     const std::string library = JoinPath(session.ProjectFolder, kWallLibrary);
     if (FileExists(library)) CopyFile(library, JoinPath(caseFolder, kWallLibrary));
@@ -130,10 +136,11 @@ std::optional<CaseRow> FindCase(const std::string& name) {
 }
 
 void OpenCase(const CaseRow& row) {
-    ForgetSpellings();
     session.CaseName = LowerCase(row.name);
     session.CaseTitle = row.title;
     session.CaseFolder = FolderOfCase(session.CaseName);
+    RecheckSpelling(session.ProjectFolder);
+    RecheckSpelling(session.CaseFolder);
     session.WindowTitle = "THARM (" + session.ProjectName + " - " + session.CaseName + ")";
 }
 
@@ -171,10 +178,7 @@ bool CreateCase(const std::string& typedName, const std::string& title) {
 
 void DeleteResultFiles(const std::string& caseFolder) {
     for (const std::string& name : ListFolder(caseFolder)) {
-        const std::string lower = LowerCase(name);
-        const bool result = std::any_of(std::begin(kResultEndings), std::end(kResultEndings),
-                                        [&](std::string_view end) { return lower.ends_with(end); });
-        if (result) DeleteFile(JoinPath(caseFolder, name));
+        if (IsResultFile(name)) DeleteFile(JoinPath(caseFolder, name));
     }
 }
 
@@ -190,13 +194,14 @@ bool CopyCase(const CaseRow& source, const std::string& typedName, const std::st
     return true;
 }
 
-bool CopyCase2(const CaseRow& source, const std::string& target) {
+bool CopyCase2(const CaseRow& source, const std::string& target,
+               const std::function<bool(const std::string& name)>& leaveOut) {
     const std::string folder = FolderOfCase(target);
     if (!FolderExists(FolderOfCase(source.name))) return false;  // the slot keeps what it has
     if (!FindCase(target)) AddCase(target, source.title);
-    EmptyFolder(folder);
-    const bool copied = CopyTree(FolderOfCase(source.name), folder);
-    DeleteResultFiles(folder);
+    const bool copied = MirrorTree(FolderOfCase(source.name), folder, [&](const std::string& name) {
+        return IsResultFile(name) || leaveOut(name);
+    });
     CopyWallLibrary(folder);
     return copied;
 }

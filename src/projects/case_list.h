@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -57,9 +58,10 @@ bool CreateCase(const std::string& typedName, const std::string& title);
 bool CopyCase(const CaseRow& source, const std::string& typedName, const std::string& title);
 
 /// The same copy for the start-up, without any message: `target` becomes equal to the template,
-/// whatever it held before. A case that stands in the list keeps its line. False when a step
-/// failed.
-bool CopyCase2(const CaseRow& source, const std::string& target);
+/// whatever it held before, but for results and the files that `leaveOut` tells. A case that stands
+/// in the list keeps its line. False when a step failed.
+bool CopyCase2(const CaseRow& source, const std::string& target,
+               const std::function<bool(const std::string& name)>& leaveOut);
 
 /// Ok of `RenCase`.
 bool RenameCase(const CaseRow& row, const std::string& typedName, const std::string& title);

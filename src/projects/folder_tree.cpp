@@ -1,5 +1,8 @@
 #include "projects/folder_tree.h"
 
+#include <algorithm>
+#include <vector>
+
 #include "app/session.h"
 #include "platform/files.h"
 #include "platform/paths.h"
@@ -29,6 +32,20 @@ bool EmptyUnchecked(const std::string& folder);
 bool RemoveEntry(const std::string& path) {
     if (DeleteFile(path)) return true;  // a file or a link
     return FolderExists(path) && EmptyUnchecked(path) && RemoveFolder(path);
+}
+
+/// One entry of a mirrored folder, under the same name.
+bool MirrorEntry(const std::string& source, const std::string& target) {
+    const auto nothing = [](const std::string&) { return false; };
+    if (FolderExists(source)) {
+        const bool fits = FolderExists(target) && !IsLink(target);
+        if (!fits) DeleteFile(target);
+        return MirrorTree(source, target, nothing);
+    }
+    const auto wanted = ReadBytes(source);
+    if (!wanted) return false;
+    if (FolderExists(target) || IsLink(target)) RemoveEntry(target);
+    return ReadView(target) == *wanted || WriteBytes(target, *wanted);
 }
 
 bool EmptyUnchecked(const std::string& folder) {
@@ -62,9 +79,25 @@ bool RemoveTree(const std::string& folder) {
     return MayBeRemoved(path) && FolderExists(path) && EmptyUnchecked(path) && RemoveFolder(path);
 }
 
-bool EmptyFolder(const std::string& folder) {
-    const std::string path = WithoutTrailingSeparators(folder);
-    return !IsLink(path) && MayBeRemoved(path) && EmptyUnchecked(path);
+bool MirrorTree(const std::string& source, const std::string& target,
+                const std::function<bool(const std::string& name)>& leaveOut) {
+    const std::string from = TrueSpelling(source);
+    const std::string to = TrueSpelling(target);
+    if (!FolderExists(from) || LiesIn(to, from) || IsLink(to) || !MayBeRemoved(to)) return false;
+    if (!FolderExists(to) && !MakeFolders(to)) return false;
+    std::vector<std::string> wanted;
+    for (const std::string& name : ListFolder(from)) {
+        if (!leaveOut(name) && !IsLink(JoinPath(from, name))) wanted.push_back(name);
+    }
+    bool all = true;
+    for (const std::string& name : ListFolder(to)) {
+        const bool keep = std::binary_search(wanted.begin(), wanted.end(), name);
+        if (!keep) all = RemoveEntry(JoinPath(to, name)) && all;
+    }
+    for (const std::string& name : wanted) {
+        all = MirrorEntry(JoinPath(from, name), JoinPath(to, name)) && all;
+    }
+    return all;
 }
 
 }  // namespace verandis

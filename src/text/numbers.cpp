@@ -9,6 +9,7 @@
 #include <system_error>
 
 #include "text/characters.h"
+#include "text/separators.h"
 
 namespace verandis {
 namespace {
@@ -81,6 +82,37 @@ double ValueOf(const Scan& scan, std::string_view text) {
     return value;
 }
 
+/// Adds the digits at the front to `whole` and gives the place behind them.
+inline const char* TakeDigits(const char* at, const char* end, std::uint32_t& whole) {
+    for (; at != end; ++at) {
+        const std::uint32_t digit = static_cast<unsigned char>(*at) - std::uint32_t('0');
+        if (digit > 9) break;
+        whole = whole * 10 + digit;
+    }
+    return at;
+}
+
+/// The plain numbers that fill data files: at most nine digits, no sign, no exponent. The place
+/// behind the number; nullptr for all others.
+inline const char* ShortNumber(const char* begin, const char* end, double& value) {
+    constexpr std::ptrdiff_t kMostDigits = 9;
+    std::uint32_t whole = 0;
+    const char* at = TakeDigits(begin, end, whole);
+    std::ptrdiff_t digits = at - begin;
+    std::ptrdiff_t decimals = 0;
+    if (at != end && *at == '.') {
+        const char* const first = ++at;
+        at = TakeDigits(first, end, whole);
+        decimals = at - first;
+        digits += decimals;
+    }
+    // Too many digits have run over; they are read again, by the way for all numbers.
+    if (digits == 0 || digits > kMostDigits) return nullptr;
+    if (at != end && (*at == 'e' || *at == 'E')) return nullptr;
+    value = double(whole) / kPowersOfTen[decimals];
+    return at;
+}
+
 /// Mantissa digits and decimal exponent of a value that is not zero, at a given precision.
 struct Decimal {
     std::string digits;  // no trailing zeros
@@ -149,6 +181,12 @@ constexpr int kFloatDigits = 7;
 }  // namespace
 
 double TakeNumber(std::string_view& text) {
+    double quick = 0;
+    const char* const end = text.data() + text.size();
+    if (const char* const rest = ShortNumber(text.data(), end, quick)) {
+        text.remove_prefix(static_cast<std::size_t>(rest - text.data()));
+        return quick;
+    }
     std::string_view rest = TrimLeadingBlanks(text);
     const bool negative = rest.starts_with('-');
     if (negative || rest.starts_with('+')) rest.remove_prefix(1);
@@ -159,6 +197,21 @@ double TakeNumber(std::string_view& text) {
     const double value = ValueOf(scan, rest);
     text = rest.substr(scan.length);
     return negative ? -value : value;
+}
+
+void FieldNumbers(std::string_view line, char separator, std::span<double> values) {
+    const char* at = line.data();
+    const char* const end = at + line.size();
+    for (double& value : values) {
+        const char* const behind = ShortNumber(at, end, value);
+        if (behind && (behind == end || *behind == separator)) {
+            at = behind == end ? end : behind + 1;
+            continue;
+        }
+        std::string_view rest(at, static_cast<std::size_t>(end - at));
+        value = PlainNumber(TakeUpTo(rest, separator));
+        at = end - rest.size();
+    }
 }
 
 double PlainNumber(std::string_view text) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -17,6 +18,10 @@ double PlainNumber(std::string_view text);
 
 /// As `PlainNumber`, and moves `text` on to the first character that was not read.
 double TakeNumber(std::string_view& text);
+
+/// The plain numbers of the fields of a line, parted by `separator`; 0 for a field that is missing
+/// or holds no number. Fields beyond the values are not read.
+void FieldNumbers(std::string_view line, char separator, std::span<double> values);
 
 /// Every "," becomes ".", then the plain conversion: "1,5" and "1.5" are both 1.5.
 double ToNumber(std::string_view text);

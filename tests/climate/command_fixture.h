@@ -1,24 +1,32 @@
 #pragma once
 
 #include <sstream>
-#include <string>
-#include <vector>
 
 #include "climate/climate_command.h"
+#include "platform/files.h"
 #include "support/session_test.h"
 
 namespace verandis {
 
-/// Runs the program in a folder of its own; `out` and `err` hold what all runs of a test said.
+using Lines = std::vector<std::string>;
+
+/// Runs the program on a file, with output to a folder that is not there yet.
 class ClimateCommandTest : public testing_support::SessionTest {
 protected:
-    const std::string folder = Path("å #");  // made by the runs
+    const std::string file = Path("in.txt");
+    const std::string folder = Path("å #");
     std::ostringstream out;
     std::ostringstream err;
 
-    int Run(const std::vector<std::string>& args) { return RunClimateCommand(args, out, err); }
-    bool Said(const std::string& text) const {
-        return (out.str() + err.str()).find(text) != std::string::npos;
+    int Run(const Lines& args) { return RunClimateCommand(args, out, err); }
+    int RunOn(const Lines& lines, const Lines& args) {
+        WriteUtf8Lines(file, lines);
+        return Run(args);
+    }
+
+    /// Lines of the file with this end that a run for the base TEST_1 wrote; none when missing.
+    Lines Written(const std::string& end) const {
+        return ReadLines(folder + "/TEST_1" + end).value_or(Lines());
     }
 };
 

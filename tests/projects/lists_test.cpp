@@ -240,7 +240,8 @@ TEST_F(Lists, SlotBecomesItsTemplateWhateverItHeld) {
     PutBytes(project + "/UShape/Site.inp", "site");
     PutBytes(project + "/UShape/a.lis", "result");
     for (int start = 1; start <= 2; ++start) {
-        ASSERT_TRUE(CopyCase2(*FindCase("ushape"), "UShape1"));
+        ASSERT_TRUE(
+            CopyCase2(*FindCase("ushape"), "UShape1", [](const std::string&) { return false; }));
         EXPECT_EQ(TreeOf(project + "/UShape1"), (Files{{"Site.inp", "site"}}));
         EXPECT_EQ(Bytes(cases), "temporar - t\r\nBase1 - b\r\nushape - U\r\nushape1 - U\r\n");
         PutBytes(project + "/UShape1/deep/er/SimpResults.Dat", "of an earlier session");
