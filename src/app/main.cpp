@@ -1,0 +1,6 @@
+#include <QApplication>
+
+int main(int count, char** arguments) {
+    const QApplication application(count, arguments);
+    return QApplication::exec();
+}
