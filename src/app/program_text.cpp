@@ -39,6 +39,10 @@ std::string TextFor(int number, int role) {
     return TextRole(Text(number), role);
 }
 
+std::string NumberOnScreen(double value) {
+    return PointToDecimal(TrimmedNumberText(value), session.Decimals);
+}
+
 std::string FrequencyCaption(int number) {
     const std::string text = Text(number);
     return text.substr(0, text.find(' ')) +

@@ -21,6 +21,9 @@ std::string Text(int number);
 /// The part of an entry that serves two places (see `TextRole`), in the session's language.
 std::string TextFor(int number, int role);
 
+/// A number as a field shows it: without outer blanks, in the session's decimal form.
+std::string NumberOnScreen(double value);
+
 /// Name of a frequency diagram: the first word of the catalogue text and the language's word for
 /// frequency.
 std::string FrequencyCaption(int number);

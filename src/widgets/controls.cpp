@@ -84,6 +84,22 @@ void FieldGrid::AddField(const QString& label, QWidget* field, const QString& un
     if (!unit.isEmpty()) addWidget(new QLabel(unit), row, 2);
 }
 
+QHBoxLayout* MakeButtonRow(QPushButton* help, const QList<QPushButton*>& right) {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(kGap);
+    if (help) {
+        help->setAutoDefault(false);
+        row->addWidget(help);
+    }
+    row->addStretch();
+    for (QPushButton* button : right) {
+        button->setAutoDefault(button == right.front());
+        row->addWidget(button);
+    }
+    if (!right.isEmpty()) right.front()->setDefault(true);
+    return row;
+}
+
 void AssignMnemonics(QWidget& window) {
     QList<Captioned> captions;
     if (auto* bar = window.findChild<QMenuBar*>()) AssignInMenu(bar->actions());

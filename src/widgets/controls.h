@@ -1,7 +1,9 @@
 #pragma once
 
-#include <QFormLayout>
 #include <QGridLayout>
+#include <QHBoxLayout>
+#include <QList>
+#include <QPushButton>
 #include <QString>
 #include <QWidget>
 
@@ -31,6 +33,10 @@ public:
     /// Appends a row. The label's text also becomes the field's accessible name.
     void AddField(const QString& label, QWidget* field, const QString& unit = {});
 };
+
+/// The last row of a dialog: help (may be null) alone at the left, the others at the right with the
+/// first of them, the accepting one, as the default button.
+QHBoxLayout* MakeButtonRow(QPushButton* help, const QList<QPushButton*>& right);
 
 /// Gives every labelled field, button, box and tab below `window` that has none a letter for Alt,
 /// each letter once where the letters suffice. To be called when all texts stand.
