@@ -12,6 +12,7 @@
 #include "cli/command_line.h"
 #include "cli/console.h"
 #include "cli/run_commands.h"
+#include "cli/set_commands.h"
 #include "libraries/simple_libraries.h"
 #include "platform/errors.h"
 #include "platform/files.h"
@@ -52,10 +53,12 @@ const Command kCommands[] = {
      2, kAnyCount, Needs::Project, RunCommand},
     {"explain", "SLOT", "show the terms of the steady-state balance", 1, 1, Needs::Project,
      ExplainCommand},
+    {"save", "NAME SLOT...", "keep slots as a saved set, over an earlier one of that name", 2,
+     kAnyCount, Needs::Project, SaveCommand},
+    {"load", "FILE", "put a saved case into its slot; asks, so say --yes", 1, 1, Needs::Project,
+     LoadCommand},
+    {"sets", "", "list the saved cases: file, set, slot", 0, 0, Needs::Project, SetsCommand},
     NotYet("report", "SLOT..."),
-    NotYet("save", "NAME SLOT..."),
-    NotYet("load", "FILE"),
-    NotYet("sets", ""),
     NotYet("generate", "SLOT"),
     NotYet("prepare", "SLOT"),
     NotYet("chain", "SLOT"),

@@ -77,7 +77,7 @@ TEST_F(Cli, WrongUseIsOneAndWhatCannotBeDoneIsTwo) {
         EXPECT_NE(err.find(told), std::string::npos) << err;
     }
     for (const char* later :
-         {"report", "save", "load", "sets", "generate", "prepare", "chain", "export"}) {
+         {"report", "generate", "prepare", "chain", "export"}) {
         EXPECT_EQ(Run({later, "U1"}), 2);
         EXPECT_EQ(err, "[Verandis] The command " + std::string(later) + " is not there yet\n");
     }
@@ -164,6 +164,23 @@ TEST_F(Cli, RunErrorIsTwoAndNamesTheCase) {
     Run({"set", "U2", "XU201", "GLAZEDID", "Unheard"});
     EXPECT_EQ(Run({"explain", "U2"}), 0) << "an unknown name is told and the run goes on";
     EXPECT_TRUE(err.starts_with("[Verandis]  Glazing not found,default used Unheard\n")) << err;
+}
+
+TEST_F(Cli, SavedSetsComeBackOnlyAfterAYes) {
+    ASSERT_EQ(Run({"start"}), 0);
+    ASSERT_EQ(Run({"set", "U2", "DIMENSION", "WIDTHB", " 31"}), 0);
+    EXPECT_EQ(Run({"save", "two words", "U2"}), 1);
+    EXPECT_EQ(Run({"save", "Plan", "u2", "V1"}), 0);
+    EXPECT_EQ(Run({"sets"}), 0);
+    EXPECT_EQ(out, "Plan!U2.CAS\tPlan\tU2\nPlan!V1.CAS\tPlan\tV1\n");
+    ASSERT_EQ(Run({"start"}), 0);
+    EXPECT_EQ(Run({"load", "Plan!U2.CAS"}), 2);
+    EXPECT_EQ(Run({"load", "../Plan!U2.CAS", "--yes"}), 2);
+    EXPECT_EQ(Run({"get", "U2", "DIMENSION", "WIDTHB"}), 0);
+    EXPECT_NE(out, " 31\n");
+    EXPECT_EQ(Run({"load", "Plan!U2.CAS", "--yes"}), 0);
+    EXPECT_EQ(Run({"get", "U2", "DIMENSION", "WIDTHB"}), 0);
+    EXPECT_EQ(out, " 31\n");
 }
 
 }  // namespace
