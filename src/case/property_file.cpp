@@ -90,6 +90,15 @@ std::string StoredForm(const std::string& value) {
 
 }  // namespace
 
+std::string PropertyIn(const std::vector<std::string>& lines, std::string_view section,
+                       std::string_view key) {
+    const auto row = std::find_if(lines.begin(), lines.end(), [&](const std::string& line) {
+        return ContainsNoCase(line, section) && ContainsNoCase(line, key);
+    });
+    if (row == lines.end()) return std::string(kNotSet);
+    return std::string(RightOfSeparator(TrimBlanks(*row), "\t"));
+}
+
 std::string PropertyFilePath() {
     return JoinPath(session.CaseFolder, kPropertyFileName);
 }

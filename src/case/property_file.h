@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 // The small text file in which a case slot keeps all that the designer has entered: one row a line,
 // section, "_", key, TAB, value. Each call opens, reads and closes the file of the open case
@@ -26,6 +27,11 @@ void GetCaseProperty(std::string_view section, std::string_view key, std::string
 /// value. True when stored: a missing file is passed over without a word, a file that cannot be
 /// written shows a message.
 bool SetCaseProperty(const std::string& section, const std::string& key, const std::string& value);
+
+/// The value of a row in these lines of a property file, found as `GetCaseProperty` finds it in the
+/// file; `kNotSet` when there is none.
+std::string PropertyIn(const std::vector<std::string>& lines, std::string_view section,
+                       std::string_view key);
 
 /// Puts a row into the session's table of staged edits, in place of one with the same names.
 void StageCaseProperty(const std::string& section, const std::string& key,

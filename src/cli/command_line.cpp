@@ -29,6 +29,7 @@ constexpr Option kOptions[] = {
     {.name = "--kind", .number = &CommandLine::kind, .least = 0, .most = 32767},
     {.name = "--yes", .flag = &CommandLine::yes},
     {.name = "--no", .flag = &CommandLine::yes, .flagValue = false},
+    {.name = "--differs", .flag = &CommandLine::differs},
     {.name = "--help", .flag = &CommandLine::help},
     {.name = "--version", .flag = &CommandLine::version},
 };

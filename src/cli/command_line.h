@@ -12,9 +12,10 @@ struct CommandLine {
     std::string system;              // data root, absolute; empty when not given
     std::string csv;                 // file, absolute; empty when not given
     std::string json;
-    int language = 0;  // 0 when not given
-    int kind = 0;      // written behind a stored value from 1 on
-    bool yes = false;  // answer to questions
+    int language = 0;      // 0 when not given
+    int kind = 0;          // written behind a stored value from 1 on
+    bool yes = false;      // answer to questions
+    bool differs = false;  // a report ends with what differs
     bool help = false;
     bool version = false;
     std::string complaint;  // what is wrong with it; empty when nothing is

@@ -11,11 +11,13 @@
 #include "cli/case_commands.h"
 #include "cli/command_line.h"
 #include "cli/console.h"
+#include "cli/report_command.h"
 #include "cli/run_commands.h"
 #include "cli/set_commands.h"
 #include "libraries/simple_libraries.h"
 #include "platform/errors.h"
 #include "platform/files.h"
+#include "results/case_report.h"
 
 namespace verandis {
 namespace {
@@ -58,7 +60,8 @@ const Command kCommands[] = {
     {"load", "FILE", "put a saved case into its slot; asks, so say --yes", 1, 1, Needs::Project,
      LoadCommand},
     {"sets", "", "list the saved cases: file, set, slot", 0, 0, Needs::Project, SetsCommand},
-    NotYet("report", "SLOT..."),
+    {"report", "SLOT...", "the inputs of up to four slots; --differs adds a table of what differs",
+     1, kMostReportCases, Needs::Project, ReportCommand},
     NotYet("generate", "SLOT"),
     NotYet("prepare", "SLOT"),
     NotYet("chain", "SLOT"),

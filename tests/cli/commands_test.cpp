@@ -77,7 +77,7 @@ TEST_F(Cli, WrongUseIsOneAndWhatCannotBeDoneIsTwo) {
         EXPECT_NE(err.find(told), std::string::npos) << err;
     }
     for (const char* later :
-         {"report", "generate", "prepare", "chain", "export"}) {
+         {"generate", "prepare", "chain", "export"}) {
         EXPECT_EQ(Run({later, "U1"}), 2);
         EXPECT_EQ(err, "[Verandis] The command " + std::string(later) + " is not there yet\n");
     }
@@ -181,6 +181,14 @@ TEST_F(Cli, SavedSetsComeBackOnlyAfterAYes) {
     EXPECT_EQ(Run({"load", "Plan!U2.CAS", "--yes"}), 0);
     EXPECT_EQ(Run({"get", "U2", "DIMENSION", "WIDTHB"}), 0);
     EXPECT_EQ(out, " 31\n");
+}
+
+TEST_F(Cli, AReportEndsWithWhatDiffersWhenAsked) {
+    ASSERT_EQ(Run({"start"}), 0);
+    ASSERT_EQ(Run({"report", "U1", "U2", "--differs"}), 0);
+    EXPECT_NE(out.find("Input\tU1\tU2\n"), std::string::npos);
+    EXPECT_EQ(Bytes(root + "/PROJECT/verandis/Slask.Res").substr(0, 14), "Utskrift gjord");
+    EXPECT_EQ(Run({"report", "U1", "U2", "U3", "U4", "O1"}), 1);
 }
 
 }  // namespace
