@@ -7,7 +7,7 @@ source "$(dirname "${BASH_SOURCE[0]}")/../tools/common.sh"
 
 build="${VERANDIS_BUILD:-build/bench}"
 
-need_packages g++ cmake ninja-build libbenchmark-dev
+need_packages g++ cmake ninja-build libbenchmark-dev "${window_packages[@]}"
 say "Building the benchmarks in $build"
 cmake -G Ninja -B "$build" -DCMAKE_BUILD_TYPE=Release -DVERANDIS_BENCH=ON -DBUILD_TESTING=OFF \
     >/dev/null

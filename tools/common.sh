@@ -4,6 +4,9 @@ set -euo pipefail
 project="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 cd "$project"
 
+# What the desktop program is built with and, without a screen, drawn with.
+window_packages=(qt6-base-dev qt6-charts-dev libqt6opengl6-dev libgl-dev fonts-dejavu-core)
+
 say() { printf '\n== %s\n' "$*"; }
 
 # Runs a command as root, through sudo when we are not.

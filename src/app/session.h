@@ -65,6 +65,7 @@ struct Session {
     std::int16_t ShowGuide = kOff;
     std::int16_t ShowDiagrams = kOff;
     std::int16_t StopCalculation = kOff;
+    std::int16_t MsgFormAnswer = 0;  // to the last question of the design guide: 0 no, 1 yes
     bool RunInProgress = false;
 
     std::int16_t ElementKindMark = 0;  // 1 window, 2 wall: written behind the next stored values

@@ -20,7 +20,6 @@ namespace {
 
 constexpr const char* kFile = "Verandis.INI";
 constexpr const char* kSection = "Verandis";
-constexpr std::size_t kLongestValue = 63;
 constexpr int kDefaultLanguage = 2;
 constexpr const char* kDefaultAccuracy = "2";
 
@@ -70,15 +69,20 @@ Settings StoredSettings() {
     Settings settings;
     for (const SettingsKey& key : kKeys) {
         const auto value = ReadProfile(kFile, kSection, key.name);
-        settings.*key.value = value && !value->empty() ? Left(*value, kLongestValue) : key.fallback;
+        settings.*key.value =
+            value && !value->empty() ? Left(*value, kLongestSettingsValue) : key.fallback;
     }
     return settings;
 }
 
-void UseSystemPath(const std::string& value) {
+std::string FullSystemPath(const std::string& value) {
     // The current folder changes with the project, so a path relative to it would wander.
     const std::string given = WithMachineSeparators(value);
-    const std::string path = WithoutDrive(given).starts_with('/') ? given : AbsolutePath(given);
+    return WithoutDrive(given).starts_with('/') ? given : AbsolutePath(given);
+}
+
+void UseSystemPath(const std::string& value) {
+    const std::string path = FullSystemPath(value);
     session.SystemFolder = path;
     session.SimulatorFolder = JoinPath(path, "MWTHARM");
     session.StageFolder = JoinPath(path, "WTHARM");
@@ -99,8 +103,12 @@ bool ReadSystemSettings() {
 }
 
 bool WriteSystemSettings(const Settings& settings) {
+    const std::string file = JoinPath(ConfigFolder(), kFile);
+    const auto before = ReadBytes(file);
     for (const SettingsKey& key : kKeys) {
-        if (!WriteProfile(kFile, kSection, key.name, settings.*key.value)) return false;
+        if (WriteProfile(kFile, kSection, key.name, settings.*key.value)) continue;
+        before ? WriteBytes(file, *before) : DeleteFile(file);
+        return false;
     }
     UseSystemPath(settings.SystemPath);
     return true;

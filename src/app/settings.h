@@ -13,7 +13,8 @@ struct Settings {
     std::string Regional;         // decimal sign that the settings dialog shows
 };
 
-inline constexpr int kLongestSystemPath = 48;  // so that a climate file's path stays within 70
+inline constexpr int kLongestSettingsValue = 63;  // characters; the rest is cut off at reading
+inline constexpr int kLongestSystemPath = 48;     // so that a climate file's path stays within 70
 
 /// Reads the settings file and sets the session's paths, language and decimal mode. False when it
 /// names no `SystemPath`: the user has to supply it.
@@ -23,12 +24,15 @@ bool ReadSystemSettings();
 Settings StoredSettings();
 
 /// Writes all five keys and takes the paths into the session. False when the file cannot be
-/// written.
+/// written; it is then as it was before.
 bool WriteSystemSettings(const Settings& settings);
 
 /// Sets `SystemFolder` and the folders derived from it; a relative path is taken from the current
 /// folder as it is now.
 void UseSystemPath(const std::string& value);
+
+/// The path as `UseSystemPath` takes it: the machine's separators, and seen from the root.
+std::string FullSystemPath(const std::string& value);
 
 /// Number of the catalogue text that tells why this folder cannot hold the data (empty, a blank, a
 /// sign outside ASCII, too long), 0 when it can.

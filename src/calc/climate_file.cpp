@@ -110,16 +110,8 @@ bool ReadBlock(ClimateLines& lines) {
     return true;
 }
 
-/// A path from the root whose folder is there: what is relative would follow the current folder.
-bool NamesFolder(const std::string& path) {
-    const bool absolute = WithMachineSeparators(WithoutDrive(path)).starts_with('/');
-    return absolute && !FolderOf(path).empty() && FolderExists(std::string(FolderOf(path)));
-}
-
 std::string FolderOfClimates() {
-    const auto entry = SiteClimate(session.CaseFolder);
-    if (entry && NamesFolder(*entry)) return std::string(FolderOf(*entry));
-    const auto folder = ClimateFolder();
+    const auto folder = ClimateFolderOfCase(session.CaseFolder);
     if (!folder) {
         StopRun("the path of the project, " + session.ProjectFolder +
                 ", does not hold the word Project, so that its climate folder is not known");

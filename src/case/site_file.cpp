@@ -14,6 +14,12 @@ std::string SitePath(const std::string& caseFolder) {
     return JoinPath(caseFolder, "SITE.inp");
 }
 
+/// A path from the root whose folder is there: what is relative would follow the current folder.
+bool NamesFolder(const std::string& path) {
+    const bool absolute = WithMachineSeparators(WithoutDrive(path)).starts_with('/');
+    return absolute && !FolderOf(path).empty() && FolderExists(std::string(FolderOf(path)));
+}
+
 }  // namespace
 
 std::optional<std::string> ClimateFolder() {
@@ -29,6 +35,12 @@ std::optional<std::string> SiteClimate(const std::string& caseFolder) {
     const auto lines = ReadLines(SitePath(caseFolder));
     if (!lines || lines->size() <= kClimateLine) return std::nullopt;
     return std::string(TrimBlanks((*lines)[kClimateLine]));
+}
+
+std::optional<std::string> ClimateFolderOfCase(const std::string& caseFolder) {
+    const auto entry = SiteClimate(caseFolder);
+    if (entry && NamesFolder(*entry)) return std::string(FolderOf(*entry));
+    return ClimateFolder();
 }
 
 bool SiteClimateAllowed(const std::string& path) {

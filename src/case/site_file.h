@@ -18,6 +18,10 @@ std::optional<std::string> ClimateFolder();
 /// Line 5 of the case's site file, trimmed; nothing when the file or the line is missing.
 std::optional<std::string> SiteClimate(const std::string& caseFolder);
 
+/// The folder of a case's climate files: that of the path in its site file when it is there, else
+/// `ClimateFolder`.
+std::optional<std::string> ClimateFolderOfCase(const std::string& caseFolder);
+
 /// True when the path may stand in a site file: a file that exists, at most 70 characters, without
 /// a blank.
 bool SiteClimateAllowed(const std::string& path);

@@ -8,6 +8,7 @@
 #include "calc/properties.h"
 #include "projects/slot_activation.h"
 #include "text/characters.h"
+#include "text/csv.h"
 #include "text/numbers.h"
 
 namespace verandis {
@@ -104,13 +105,6 @@ std::string JsonText(const std::string& text) {
 /// JSON has no word for what is no number.
 std::string JsonNumber(float value) {
     return std::isfinite(value) ? TrimmedNumberText(value) : "null";
-}
-
-std::string CsvText(const std::string& text) {
-    if (text.find_first_of(",\"\r\n") == std::string::npos) return text;
-    std::string quoted = "\"";
-    for (const char c : text) quoted += c == '"' ? "\"\"" : std::string(1, c);
-    return quoted + "\"";
 }
 
 std::string JsonMonth(std::size_t month, const MonthResult& result) {

@@ -47,7 +47,9 @@ void Assign(const QList<Captioned>& captions) {
         if (const QChar letter = LetterOf(each.text); !letter.isNull()) taken.insert(letter);
     }
     for (const Captioned& each : captions) {
-        if (LetterOf(each.text).isNull()) each.set(WithMnemonic(each.text, taken));
+        // A figure on a button is no word to pick a letter from.
+        const bool word = each.text.size() > 1 && LetterOf(each.text).isNull();
+        if (word && each.set) each.set(WithMnemonic(each.text, taken));
     }
 }
 
@@ -102,11 +104,10 @@ QHBoxLayout* MakeButtonRow(QPushButton* help, const QList<QPushButton*>& right) 
 
 void AssignMnemonics(QWidget& window) {
     QList<Captioned> captions;
-    if (auto* bar = window.findChild<QMenuBar*>()) AssignInMenu(bar->actions());
-    for (const QAction* action : window.findChild<QMenuBar*>()
-                                     ? window.findChild<QMenuBar*>()->actions()
-                                     : QList<QAction*>()) {
-        captions.append({action->text(), [](const QString&) {}});
+    if (const auto* bar = window.findChild<QMenuBar*>()) {
+        AssignInMenu(bar->actions());
+        // Their letters are taken for the rest of the window.
+        for (const QAction* menu : bar->actions()) captions.append({menu->text(), {}});
     }
     for (QWidget* widget : window.findChildren<QWidget*>()) {
         if (auto* button = qobject_cast<QAbstractButton*>(widget);

@@ -1,0 +1,122 @@
+#include "app/slot_header_form.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "case/property_file.h"
+#include "case/shapes.h"
+#include "text/separators.h"
+#include "widgets/controls.h"
+#include "widgets/qt_text.h"
+
+namespace verandis {
+namespace {
+
+enum : int {
+    kCaseWord = 196,
+    kClimateWord = 242,
+    kNoteWord = 50,
+    kActiveCase = 554,
+    kNoteCommand = 516,
+    kDataCommand = 515,
+    kActiveTip = 578
+};
+
+constexpr double kTitleSize = 1.35;  // of the text size
+
+std::string PropertyOrNothing(const char* section, const char* key) {
+    std::string value;
+    GetCaseProperty(section, key, value);
+    return value == kNotSet ? std::string() : value;
+}
+
+/// "GOTEBORG" of "GOTEBORG_1".
+QString Place() {
+    return Shown(LeftOfSeparator(PropertyOrNothing("CLIMATE", "FILE"), "_"));
+}
+
+}  // namespace
+
+SlotHeader::SlotHeader(QWidget* parent)
+    : QWidget(parent),
+      title_(Named("ActiveSlot", new QLabel)),
+      facts_(Named("SlotFacts", new QLabel)),
+      caseWord_(new QLabel),
+      note_(Named("EditNote", new QPushButton)),
+      data_(Named("EditData", new QPushButton)) {
+    for (QLabel* label : {title_, facts_}) label->setTextFormat(Qt::PlainText);
+    facts_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    QFont large = font();
+    large.setPointSizeF(large.pointSizeF() * kTitleSize);
+    large.setBold(true);
+    title_->setFont(large);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(kGap);
+    row->addWidget(title_);
+    row->addStretch(1);
+    row->addWidget(caseWord_);
+    for (int caseNo = 1; caseNo <= kCasesPerShape; ++caseNo) {
+        auto* option = new QRadioButton(QString::number(caseNo));
+        option->setObjectName(QString("ActiveCase%1").arg(caseNo));
+        connect(option, &QRadioButton::clicked, this, [this, caseNo] { emit CaseChosen(caseNo); });
+        row->addWidget(option);
+        options_[static_cast<std::size_t>(caseNo - 1)] = option;
+    }
+    row->addSpacing(kMargin);
+    row->addWidget(data_);
+    row->addWidget(note_);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(kTightGap);
+    column->addLayout(row);
+    column->addWidget(facts_);
+    connect(note_, &QPushButton::clicked, this, &SlotHeader::NotePressed);
+    connect(data_, &QPushButton::clicked, this, &SlotHeader::DataPressed);
+}
+
+void SlotHeader::TakeTexts() {
+    caseWord_->setText(Label(kActiveCase));
+    note_->setText(Label(kNoteCommand));
+    data_->setText(Label(kDataCommand));
+    for (QRadioButton* option : options_) {
+        option->setToolTip(Label(kActiveTip));
+        option->setAccessibleName(QString("%1 %2").arg(Label(kActiveCase), option->text()));
+    }
+}
+
+void SlotHeader::Refresh() {
+    if (!IsShape(session.ActiveShape)) {
+        title_->clear();
+        factText_.clear();
+        return ShowFacts();
+    }
+    const QString word = Label(WordsOf(session.ActiveShape).textNumber);
+    title_->setText(
+        QString("%1, %2 %3").arg(word, Label(kCaseWord).toLower()).arg(session.ActiveCaseNo));
+    QStringList facts;
+    if (const QString place = Place(); !place.isEmpty()) {
+        facts.append(QString("%1: %2").arg(Label(kClimateWord), place));
+    }
+    if (const auto note = PropertyOrNothing("CASE", "NOTE"); !note.empty()) {
+        facts.append(QString("%1: %2").arg(Label(kNoteWord), Shown(note)));
+    }
+    factText_ = facts.join("   ");
+    ShowFacts();
+}
+
+/// One line; what does not fit is in the tool tip.
+void SlotHeader::ShowFacts() {
+    facts_->setText(facts_->fontMetrics().elidedText(factText_, Qt::ElideRight, width()));
+    facts_->setToolTip(factText_);
+}
+
+void SlotHeader::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    ShowFacts();
+}
+
+void SlotHeader::SetActiveCase(int caseNo) {
+    options_[static_cast<std::size_t>(caseNo - 1)]->setChecked(true);
+}
+
+}  // namespace verandis

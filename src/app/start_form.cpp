@@ -1,0 +1,356 @@
+#include "app/start_form.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QStatusBar>
+#include <QVBoxLayout>
+
+#include "app/case_note.h"
+#include "app/program_text.h"
+#include "app/session.h"
+#include "app/settings.h"
+#include "app/slot_selection.h"
+#include "app/start_up.h"
+#include "app/sys_init_form.h"
+#include "calc/results.h"
+#include "projects/case_forms_form.h"
+#include "projects/project_list.h"
+#include "widgets/controls.h"
+#include "widgets/qt_text.h"
+
+namespace verandis {
+namespace {
+
+enum : int {
+    kAboutTitle = 551,
+    kAboutText = 566,
+    kVersionWord = 567,
+    kNoSuchSlot = 564,
+    kDataLater = 565
+};
+
+constexpr QSize kLeastSize(1024, 700);
+constexpr QSize kFirstSize(1280, 820);
+
+}  // namespace
+
+StartForm::StartForm(QWidget* parent) : QMainWindow(parent) {
+    setObjectName("StartForm");
+    BuildWindow();
+    ConnectSlots();
+    ConnectCalculation();
+    ConnectMenus();
+    Form_Load();
+}
+
+StartForm::~StartForm() {
+    static Progress invisible;
+    UseProgress(invisible);
+}
+
+void StartForm::BuildWindow() {
+    menus_ = std::make_unique<StartMenus>(*this);
+    auto* content = new QWidget;
+    auto* row = new QHBoxLayout(content);
+    row->setContentsMargins(kMargin, kMargin, kMargin, kGap);
+    row->setSpacing(kMargin);
+    row->addWidget(BuildSideBar());
+    row->addWidget(BuildResults(), 1);
+    setCentralWidget(content);
+    statusBar();
+    setMinimumSize(kLeastSize);
+    progress_ = std::make_unique<BarProgress>(*ProgressBar1);
+    UseProgress(*progress_);
+}
+
+QWidget* StartForm::BuildSideBar() {
+    auto* column = new QWidget;
+    auto* list = new QVBoxLayout(column);
+    list->setContentsMargins(0, 0, 0, 0);
+    list->setSpacing(kGap);
+    for (int shape = 1; shape <= kShapeCount; ++shape) {
+        auto* family = new FamilyFrame(shape);
+        families_[static_cast<std::size_t>(shape - 1)] = family;
+        list->addWidget(family);
+    }
+    panel_ = new CalculationPanel;
+    list->addWidget(panel_);
+    list->addStretch();
+
+    auto* area = new QScrollArea;  // for large fonts on small screens
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidget(column);
+    area->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+    return area;
+}
+
+QWidget* StartForm::BuildResults() {
+    auto* side = new QWidget;
+    auto* column = new QVBoxLayout(side);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(kGap);
+    header_ = new SlotHeader;
+    column->addWidget(header_);
+
+    Frame8 = Named("Frame8", new QGroupBox);
+    auto* frame = new QVBoxLayout(Frame8);
+    frame->setContentsMargins(kGap, kTightGap, kGap, kGap);
+    ProgressBar1 = Named("ProgressBar1", new QProgressBar);
+    ProgressBar1->setTextVisible(false);  // its last step never lands: a full bar would say 99 %
+    frame->addWidget(ProgressBar1);
+    Frame8->hide();
+    column->addWidget(Frame8);
+
+    Image1 = Named("Image1", new PlanView);
+    Image1->SetDetail(PlanView::Detail::Full);
+    column->addWidget(Image1, 1);
+    results_ = column;
+    MakeDiagramTabs();
+    return side;
+}
+
+/// The tabs take their words when they are made.
+void StartForm::MakeDiagramTabs() {
+    delete SSTab1;
+    SSTab1 = new DiagramTabs;
+    SSTab1->hide();
+    results_->addWidget(SSTab1, 1);
+}
+
+void StartForm::ConnectSlots() {
+    for (FamilyFrame* family : families_) {
+        connect(family, &FamilyFrame::Chosen, this, &StartForm::ChooseFamily);
+        connect(family, &FamilyFrame::CasePressed, this, &StartForm::PressCase);
+        connect(family, &FamilyFrame::MarkPressed, this, &StartForm::Mark);
+    }
+    connect(header_, &SlotHeader::CaseChosen, this, &StartForm::ChooseCase);
+    connect(header_, &SlotHeader::NotePressed, this, &StartForm::GS_Notes_Click);
+    connect(header_, &SlotHeader::DataPressed, this, &StartForm::OpenCaseData);
+}
+
+void StartForm::ConnectCalculation() {
+    connect(panel_->CalcStSt, &QRadioButton::clicked, this,
+            [this] { ChooseCalculation(kSteadyState); });
+    connect(panel_->CalcDyn, &QRadioButton::clicked, this, [this] { ChooseCalculation(kDynamic); });
+    connect(panel_->Check1, &QCheckBox::clicked, this,
+            [](bool on) { session.ShowGuide = on ? kOn : kOff; });
+    connect(panel_->Check2, &QCheckBox::clicked, this,
+            [](bool on) { session.ShowDiagrams = on ? kOn : kOff; });
+    connect(panel_->Calculate, &QPushButton::clicked, this, &StartForm::Calculate_Click);
+    connect(panel_->Command1, &QPushButton::clicked, this, [] { session.StopCalculation = kOn; });
+    connect(panel_->Command10, &QPushButton::clicked, this, &StartForm::Command10_Click);
+    connect(panel_->PrintOut, &QPushButton::clicked, this, [this] { SSTab1->PrintActive(); });
+}
+
+void StartForm::ConnectMenus() {
+    ConnectProjectMenus();
+    menus_->Connect("M_EditSystemFile", [this] { EditSystemFile(); });
+    menus_->Connect("M_Quit", [this] { close(); });
+    menus_->Connect("GS_Notes", [this] { GS_Notes_Click(); });
+    menus_->Connect("M_Calculate", [this] { Calculate_Click(); });
+    menus_->Connect("M_Clear", [this] { Command10_Click(); });
+    menus_->Connect("M_DesignGuide", [this] { OpenDesignGuide(); });
+    menus_->Connect("M_Print", [this] { SSTab1->PrintActive(); });
+    menus_->Connect("M_About", [this] { ShowAboutBox(); });
+}
+
+template <class Dialog>
+void StartForm::OpenDialog() {
+    Dialog dialog(this);
+    if (dialog.exec() != QDialog::Accepted) return;
+    GoIdle();
+    StartUp();
+}
+
+void StartForm::ConnectProjectMenus() {
+    menus_->Connect("M_NewProject", [this] { OpenDialog<forms::NewProject>(); });
+    menus_->Connect("M_OpenProject", [this] { OpenDialog<forms::OpenProject>(); });
+    menus_->Connect("M_CopyProject", [this] { OpenDialog<forms::CopyProject>(); });
+    menus_->Connect("M_RenameProject", [this] { OpenDialog<forms::RenProject>(); });
+    menus_->Connect("M_DeleteProject", [this] { OpenDialog<forms::DelProject>(); });
+    menus_->Connect("M_NewCase", [this] { OpenDialog<forms::NewCase>(); });
+    menus_->Connect("M_OpenCase", [this] { OpenDialog<forms::OpenCase>(); });
+    menus_->Connect("M_CopyCase", [this] { OpenDialog<forms::CopyCase>(); });
+    menus_->Connect("M_RenameCase", [this] { OpenDialog<forms::RenCase>(); });
+    menus_->Connect("M_ConvertProjectList", [this] {
+        ConvertProjectList();
+        StartUp();
+    });
+}
+
+void StartForm::TakeTexts() {
+    menus_->TakeTexts();
+    for (FamilyFrame* family : families_) family->TakeTexts();
+    panel_->TakeTexts();
+    header_->TakeTexts();
+    ProgressBar1->setAccessibleName(Label(58));
+    MakeDiagramTabs();
+    AssignMnemonics(*this);
+    SetCaption(TextFor(61, 1));
+}
+
+/// The load of the window. Nothing of it can stop the start: what is missing shows up later.
+void StartForm::Form_Load() {
+    SysInit settings;
+    const bool asked = !ReadSystemSettings();
+    if (asked) settings.exec();
+    if (!asked || !settings.StartedAnew()) StartSession();
+    TakeTexts();
+    resize(kFirstSize.boundedTo(screen()->availableSize()));
+    move(screen()->availableGeometry().center() - rect().center());
+    TakeSession();
+    panel_->Calculate->setFocus();
+}
+
+/// Shows the session as it stands after a start.
+void StartForm::TakeSession() {
+    menus_->Command("M_Export").setVisible(!SimulatorSystemPath().empty());
+    panel_->Check1->setChecked(session.ShowGuide != kOff);
+    panel_->Check2->setChecked(session.ShowDiagrams != kOff);
+    SSTab1->AllowTwoCaseView(false);
+    Command10_Click();
+    Frame8->hide();
+    for (int shape = 1; shape <= kShapeCount; ++shape) ShowShapePicture(shape, 1);
+    ShowShapePicture(session.ActiveShape, session.ActiveCaseNo);
+    ShowShapeState(session.ActiveShape);
+    StartUp();
+}
+
+void StartForm::StartUp() {
+    menus_->Follow(verandis::StartUp());
+    menus_->Command("M_Print").setEnabled(panel_->PrintOut->isEnabled());
+    setWindowTitle(Shown(session.WindowTitle.empty() ? kProgramTitle : session.WindowTitle));
+    header_->Refresh();
+}
+
+void StartForm::ShowShapePicture(int shape, int caseNo) {
+    if (!IsShape(shape)) return;
+    families_[static_cast<std::size_t>(shape - 1)]->ShowPlan(caseNo);
+    Image1->ShowSlot({shape, caseNo});
+}
+
+void StartForm::ShowShapeState(int shape) {
+    for (int each = 1; each <= kShapeCount; ++each) {
+        families_[static_cast<std::size_t>(each - 1)]->SetActive(each == shape,
+                                                                 session.ActiveCaseNo);
+    }
+    if (session.ActiveCaseNo >= 1) header_->SetActiveCase(session.ActiveCaseNo);
+}
+
+/// No results are shown any more; the result files stay on disk.
+void StartForm::GoIdle() {
+    HideDiagrams();
+    SetCaption(TextFor(61, 1));
+    progress_->SetValue(0);
+    AllowPrinting(false);
+}
+
+void StartForm::ChooseFamily(int shape) {
+    if (session.RunInProgress) return;
+    GoIdle();
+    if (!SelectFamily(shape)) return ShowTold(kNoSuchSlot);
+    ShowShapePicture(shape, 1);
+    ShowShapeState(shape);
+    StartUp();
+}
+
+void StartForm::ChooseCase(int caseNo) {
+    if (session.RunInProgress) return;
+    GoIdle();
+    if (!SelectCase(caseNo)) ShowTold(kNoSuchSlot);
+    ShowShapePicture(session.ActiveShape, session.ActiveCaseNo);
+    ShowShapeState(session.ActiveShape);
+    StartUp();
+}
+
+void StartForm::PressCase(int caseNo) {
+    if (session.RunInProgress) return;
+    if (session.ActiveCaseNo == caseNo) {
+        ShowShapeState(session.ActiveShape);
+        return OpenCaseData();
+    }
+    ChooseCase(caseNo);
+}
+
+void StartForm::Mark(int shape, int caseNo, bool marked) {
+    if (session.RunInProgress) return;
+    GoIdle();
+    auto& row = session.ChkCase[static_cast<std::size_t>(shape)];
+    row[static_cast<std::size_t>(caseNo)] = marked;
+    int count = 0;
+    for (const auto& each : session.ChkCase) {
+        count += static_cast<int>(std::count(each.begin(), each.end(), true));
+    }
+    panel_->ShowMarked(count);
+}
+
+void StartForm::ChooseCalculation(float mode) {
+    session.CalcMode = mode;
+    panel_->SteadyItems->setVisible(mode != kDynamic);
+    SSTab1->EnableTabsFor(mode);
+}
+
+void StartForm::Command10_Click() {
+    if (session.RunInProgress) return;
+    GoIdle();
+    UnLoadGraphics();
+    ClearMarks();
+    for (FamilyFrame* family : families_) family->ClearMarks();
+    panel_->ClearChoice();
+    panel_->SteadyItems->show();
+    panel_->ShowMarked(0);
+}
+
+void StartForm::OpenCaseData() {
+    ShowMessage(Text(kDataLater), kProgramTitle, Icon::Information);
+}
+
+void StartForm::GS_Notes_Click() {
+    if (session.RunInProgress) return;
+    EditCaseNote();
+    header_->Refresh();
+    SSTab1->update();
+}
+
+void StartForm::EditSystemFile() {
+    SysInit dialog(this);
+    if (dialog.exec() != QDialog::Accepted || !dialog.StartedAnew()) return;
+    TakeTexts();
+    TakeSession();
+}
+
+void StartForm::ShowAboutBox() {
+    const std::string version = QApplication::applicationVersion().toStdString();
+    ShowMessage("Verandis\n" + Text(kVersionWord) + " " + version + "\n\n" + Text(kAboutText),
+                Text(kAboutTitle), Icon::Information);
+}
+
+void StartForm::ShowTold(int text) {
+    statusBar()->showMessage(Label(text));
+}
+
+void StartForm::UnLoadGraphics() {
+    CloseGuide();
+    SSTab1->UnLoadGraphics();
+}
+
+void StartForm::closeEvent(QCloseEvent* event) {
+    if (session.RunInProgress) return event->ignore();
+    UnLoadGraphics();
+    QMainWindow::closeEvent(event);
+    QApplication::quit();
+}
+
+void StartForm::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::PaletteChange && panel_) panel_->Blacken();
+    QMainWindow::changeEvent(event);
+}
+
+}  // namespace verandis
