@@ -8,11 +8,19 @@
 #include <QStyleFactory>
 #include <QTabWidget>
 #include <QTest>
+#include <QTimer>
 #include <iostream>
 
 #include "app/session.h"
 #include "app/start_form.h"
 #include "app/sys_init_form.h"
+#include "dialogs/demands_form.h"
+#include "dialogs/geometry_form.h"
+#include "dialogs/glazing_form.h"
+#include "dialogs/hvac_form.h"
+#include "dialogs/opaque_form.h"
+#include "dialogs/shade_site_form.h"
+#include "libraries/type_library_form.h"
 #include "platform/prompts.h"
 #include "projects/case_forms_form.h"
 
@@ -39,6 +47,16 @@ QPalette DarkPalette() {
     dark.setColor(QPalette::Highlight, QColor(60, 120, 190));
     dark.setColor(QPalette::HighlightedText, text);
     return dark;
+}
+
+/// Answers every question of the design guide with yes.
+void AnswerQuestions(QTimer& timer) {
+    QObject::connect(&timer, &QTimer::timeout, [] {
+        QWidget* box = QApplication::activeModalWidget();
+        auto* yes = box ? box->findChild<QPushButton*>("Command1_1") : nullptr;
+        if (yes) yes->click();
+    });
+    timer.start(20);
 }
 
 class Camera {
@@ -82,7 +100,8 @@ void TakeResults(StartForm& form, const Camera& camera) {
     }
     if (auto* guide = form.findChild<verandis::Ststcalcchart*>()) {
         auto* rows = guide->findChild<QComboBox*>("Combo1");
-        QTest::keyClick(rows, Qt::Key_Down);
+        rows->setCurrentIndex(0);
+        emit rows->activated(0);
         camera.Take(*guide, "guide");
     }
 }
@@ -97,6 +116,15 @@ void TakeDialog(StartForm& form, const Camera& camera, const char* name) {
 void TakeDialogs(StartForm& form, const Camera& camera) {
     namespace forms = verandis::forms;
     TakeDialog<verandis::SysInit>(form, camera, "settings");
+    TakeDialog<verandis::EditBuildingData>(form, camera, "building-data");
+    TakeDialog<verandis::GeoUShape>(form, camera, "geometry");
+    TakeDialog<verandis::ShadeSite>(form, camera, "site");
+    TakeDialog<verandis::OpaqueConstrUShape>(form, camera, "constructions");
+    TakeDialog<verandis::GlazingUShape>(form, camera, "glazing");
+    TakeDialog<verandis::HVACForm>(form, camera, "conditions");
+    TakeDialog<verandis::HVACformX>(form, camera, "demands");
+    TakeDialog<verandis::ReferenceWindowsLib>(form, camera, "windows");
+    TakeDialog<verandis::OpaqueWallsLib>(form, camera, "walls");
     TakeDialog<forms::NewProject>(form, camera, "new-project");
     TakeDialog<forms::OpenProject>(form, camera, "open-project");
     TakeDialog<forms::RenProject>(form, camera, "rename-project");
@@ -134,6 +162,8 @@ int main(int count, char** arguments) {
     QApplication::setFont(font);
     YesPrompts prompts;
     verandis::UsePrompts(prompts);
+    QTimer answers;
+    AnswerQuestions(answers);
     StartForm form;
     form.resize(words.size() > 5 ? form.minimumSize() : QSize(1280, 820));
     form.show();

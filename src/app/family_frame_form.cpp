@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyleOption>
+#include <algorithm>
 
 #include "widgets/controls.h"
 #include "widgets/qt_text.h"
@@ -21,7 +22,9 @@ enum : int {
     kActiveTip = 579
 };
 
-constexpr int kPlanLines = 6;  // height of the small plan, in lines of text
+constexpr int kPlanLines = 6;   // height of the small plan, in lines of text
+constexpr int kMostPlan = 110;  // but not more than this, in pixels: large text needs the room
+constexpr int kButtonLetters = 7;
 constexpr qreal kCorner = 6;
 
 std::size_t IndexOf(int caseNo) {
@@ -45,7 +48,7 @@ FamilyFrame::FamilyFrame(int shape, QWidget* parent)
     setFocusPolicy(Qt::TabFocus);
     plan_->setObjectName(QString("Plan%1").arg(QChar(WordsOf(shape).letter)));
     plan_->SetDetail(PlanView::Detail::Thumbnail);
-    const int side = fontMetrics().height() * kPlanLines;
+    const int side = std::min(fontMetrics().height() * kPlanLines, kMostPlan);
     plan_->setFixedSize(side, side);
     QFont bold = font();
     bold.setBold(true);
@@ -58,6 +61,7 @@ FamilyFrame::FamilyFrame(int shape, QWidget* parent)
     grid->addWidget(caseWord_, 1, 0);
     grid->addWidget(compareWord_, 2, 0);
     for (int caseNo = 1; caseNo <= kCasesPerShape; ++caseNo) BuildCase(*grid, caseNo);
+    grid->setColumnStretch(0, 1);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(kGap, kTightGap, kGap, kTightGap);
     row->setSpacing(kMargin);
@@ -70,7 +74,7 @@ void FamilyFrame::BuildCase(QGridLayout& grid, int caseNo) {
     auto* button = new QPushButton(QString::number(caseNo));
     button->setObjectName(IndexedName(buttonName.toLatin1(), caseNo - 1));
     button->setCheckable(true);
-    button->setMinimumWidth(fontMetrics().averageCharWidth() * 4);
+    button->setFixedWidth(fontMetrics().averageCharWidth() * kButtonLetters);
     connect(button, &QPushButton::clicked, this, [this, button, caseNo] {
         button->setChecked(true);  // the window decides anew which case is the active one
         emit CasePressed(caseNo);
@@ -81,7 +85,6 @@ void FamilyFrame::BuildCase(QGridLayout& grid, int caseNo) {
             [this, caseNo](bool on) { emit MarkPressed(shape_, caseNo, on); });
     grid.addWidget(button, 1, caseNo);
     grid.addWidget(mark, 2, caseNo, Qt::AlignHCenter);
-    grid.setColumnStretch(caseNo, 1);
     buttons_[IndexOf(caseNo)] = button;
     marks_[IndexOf(caseNo)] = mark;
 }

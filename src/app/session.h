@@ -34,6 +34,9 @@ inline constexpr float kDynamic = 2.0f;
 inline constexpr std::int16_t kOff = 0;
 inline constexpr std::int16_t kOn = -1;
 
+/// Value of `GlazingGroup` while no group of elements is chosen.
+inline constexpr std::uint16_t kNoGroup = 65535;
+
 /// The state of the running program; one copy. A test starts anew with `session = {}`.
 struct Session {
     std::string SystemFolder;        // value of SystemPath
@@ -69,7 +72,8 @@ struct Session {
     bool RunInProgress = false;
 
     std::int16_t ElementKindMark = 0;  // 1 window, 2 wall: written behind the next stored values
-    std::string PropertyValue;         // buffer of the last value or slot name
+    std::uint16_t GlazingGroup = kNoGroup;  // code of the group chosen in a glazing or wall dialog
+    std::string PropertyValue;              // buffer of the last value or slot name
     std::vector<StagedProperty> CasePropertyTable;
 };
 

@@ -1,5 +1,6 @@
 #include "app/slot_header_form.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -45,31 +46,33 @@ SlotHeader::SlotHeader(QWidget* parent)
       note_(Named("EditNote", new QPushButton)),
       data_(Named("EditData", new QPushButton)) {
     for (QLabel* label : {title_, facts_}) label->setTextFormat(Qt::PlainText);
+    facts_->installEventFilter(this);
     facts_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     QFont large = font();
     large.setPointSizeF(large.pointSizeF() * kTitleSize);
     large.setBold(true);
     title_->setFont(large);
-    auto* row = new QHBoxLayout;
-    row->setSpacing(kGap);
-    row->addWidget(title_);
-    row->addStretch(1);
-    row->addWidget(caseWord_);
+    auto* upper = new QHBoxLayout;
+    upper->setSpacing(kGap);
+    upper->addWidget(title_, 1);
+    upper->addWidget(data_);
+    upper->addWidget(note_);
+    auto* lower = new QHBoxLayout;
+    lower->setSpacing(kGap);
+    lower->addWidget(facts_, 1);
+    lower->addWidget(caseWord_);
     for (int caseNo = 1; caseNo <= kCasesPerShape; ++caseNo) {
         auto* option = new QRadioButton(QString::number(caseNo));
         option->setObjectName(QString("ActiveCase%1").arg(caseNo));
         connect(option, &QRadioButton::clicked, this, [this, caseNo] { emit CaseChosen(caseNo); });
-        row->addWidget(option);
+        lower->addWidget(option);
         options_[static_cast<std::size_t>(caseNo - 1)] = option;
     }
-    row->addSpacing(kMargin);
-    row->addWidget(data_);
-    row->addWidget(note_);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(kTightGap);
-    column->addLayout(row);
-    column->addWidget(facts_);
+    column->addLayout(upper);
+    column->addLayout(lower);
     connect(note_, &QPushButton::clicked, this, &SlotHeader::NotePressed);
     connect(data_, &QPushButton::clicked, this, &SlotHeader::DataPressed);
 }
@@ -106,13 +109,13 @@ void SlotHeader::Refresh() {
 
 /// One line; what does not fit is in the tool tip.
 void SlotHeader::ShowFacts() {
-    facts_->setText(facts_->fontMetrics().elidedText(factText_, Qt::ElideRight, width()));
+    facts_->setText(facts_->fontMetrics().elidedText(factText_, Qt::ElideRight, facts_->width()));
     facts_->setToolTip(factText_);
 }
 
-void SlotHeader::resizeEvent(QResizeEvent* event) {
-    QWidget::resizeEvent(event);
-    ShowFacts();
+bool SlotHeader::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == facts_ && event->type() == QEvent::Resize) ShowFacts();
+    return QWidget::eventFilter(watched, event);
 }
 
 void SlotHeader::SetActiveCase(int caseNo) {

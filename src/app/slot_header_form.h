@@ -26,7 +26,7 @@ public:
     void SetActiveCase(int caseNo);
 
 protected:
-    void resizeEvent(QResizeEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 signals:
     void CaseChosen(int caseNo);

@@ -9,6 +9,7 @@
 #include <QStatusBar>
 #include <QVBoxLayout>
 
+#include "app/case_changes.h"
 #include "app/case_note.h"
 #include "app/program_text.h"
 #include "app/session.h"
@@ -17,6 +18,8 @@
 #include "app/start_up.h"
 #include "app/sys_init_form.h"
 #include "calc/results.h"
+#include "dialogs/demands_form.h"
+#include "libraries/type_library_form.h"
 #include "projects/case_forms_form.h"
 #include "projects/project_list.h"
 #include "widgets/controls.h"
@@ -25,13 +28,7 @@
 namespace verandis {
 namespace {
 
-enum : int {
-    kAboutTitle = 551,
-    kAboutText = 566,
-    kVersionWord = 567,
-    kNoSuchSlot = 564,
-    kDataLater = 565
-};
+enum : int { kAboutTitle = 551, kAboutText = 566, kVersionWord = 567, kNoSuchSlot = 564 };
 
 constexpr QSize kLeastSize(1024, 700);
 constexpr QSize kFirstSize(1280, 820);
@@ -48,6 +45,7 @@ StartForm::StartForm(QWidget* parent) : QMainWindow(parent) {
 }
 
 StartForm::~StartForm() {
+    OnCaseChanged({});
     static Progress invisible;
     UseProgress(invisible);
 }
@@ -87,8 +85,15 @@ QWidget* StartForm::BuildSideBar() {
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->setFocusPolicy(Qt::NoFocus);
     area->setWidget(column);
-    area->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+    column->installEventFilter(this);
+    sideBar_ = area;
     return area;
+}
+
+/// As wide as its words need, with room for a scroll bar.
+void StartForm::FitSideBar() {
+    sideBar_->setFixedWidth(sideBar_->widget()->sizeHint().width() +
+                            sideBar_->verticalScrollBar()->sizeHint().width());
 }
 
 QWidget* StartForm::BuildResults() {
@@ -151,6 +156,7 @@ void StartForm::ConnectCalculation() {
 
 void StartForm::ConnectMenus() {
     ConnectProjectMenus();
+    ConnectCaseMenus();
     menus_->Connect("M_EditSystemFile", [this] { EditSystemFile(); });
     menus_->Connect("M_Quit", [this] { close(); });
     menus_->Connect("GS_Notes", [this] { GS_Notes_Click(); });
@@ -183,6 +189,14 @@ void StartForm::ConnectProjectMenus() {
         ConvertProjectList();
         StartUp();
     });
+}
+
+void StartForm::ConnectCaseMenus() {
+    menus_->Connect("M_EditBuildingData", [this] { OpenCaseData(); });
+    menus_->Connect("M_DesignDemands", [this] { OpenDemands(); });
+    menus_->Connect("M_ReferenceWindows", [this] { ReferenceWindowsLib(this).exec(); });
+    menus_->Connect("M_OpaqueWalls", [this] { OpaqueWallsLib(this).exec(); });
+    OnCaseChanged([this](bool resultsOutdated) { TakeCaseChange(resultsOutdated); });
 }
 
 void StartForm::TakeTexts() {
@@ -228,6 +242,7 @@ void StartForm::StartUp() {
     menus_->Command("M_Print").setEnabled(panel_->PrintOut->isEnabled());
     setWindowTitle(Shown(session.WindowTitle.empty() ? kProgramTitle : session.WindowTitle));
     header_->Refresh();
+    if (editor_) editor_->Refresh();
 }
 
 void StartForm::ShowShapePicture(int shape, int caseNo) {
@@ -272,6 +287,7 @@ void StartForm::ChooseCase(int caseNo) {
 
 void StartForm::PressCase(int caseNo) {
     if (session.RunInProgress) return;
+    if (editor_) editor_->Refresh();
     if (session.ActiveCaseNo == caseNo) {
         ShowShapeState(session.ActiveShape);
         return OpenCaseData();
@@ -309,7 +325,27 @@ void StartForm::Command10_Click() {
 }
 
 void StartForm::OpenCaseData() {
-    ShowMessage(Text(kDataLater), kProgramTitle, Icon::Information);
+    if (session.RunInProgress) return;
+    if (!editor_) {
+        editor_ = new EditBuildingData(this);
+        connect(editor_, &EditBuildingData::DemandsWanted, this, &StartForm::OpenDemands);
+    }
+    editor_->Refresh();
+    editor_->show();
+    editor_->raise();
+    editor_->activateWindow();
+}
+
+void StartForm::OpenDemands() {
+    HVACformX(this).exec();
+}
+
+/// A dialog has stored something in the open case.
+void StartForm::TakeCaseChange(bool resultsOutdated) {
+    if (resultsOutdated) AllowPrinting(false);
+    ShowShapePicture(session.ActiveShape, session.ActiveCaseNo);
+    header_->Refresh();
+    if (editor_) editor_->Refresh();
 }
 
 void StartForm::GS_Notes_Click() {
@@ -344,6 +380,7 @@ void StartForm::UnLoadGraphics() {
 void StartForm::closeEvent(QCloseEvent* event) {
     if (session.RunInProgress) return event->ignore();
     UnLoadGraphics();
+    delete editor_;
     QMainWindow::closeEvent(event);
     QApplication::quit();
 }
@@ -351,6 +388,12 @@ void StartForm::closeEvent(QCloseEvent* event) {
 void StartForm::changeEvent(QEvent* event) {
     if (event->type() == QEvent::PaletteChange && panel_) panel_->Blacken();
     QMainWindow::changeEvent(event);
+}
+
+/// Words and fonts of the side bar change its width.
+bool StartForm::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::LayoutRequest && watched == sideBar_->widget()) FitSideBar();
+    return QMainWindow::eventFilter(watched, event);
 }
 
 }  // namespace verandis

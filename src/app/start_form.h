@@ -4,6 +4,7 @@
 #include <QMainWindow>
 #include <QPointer>
 #include <QProgressBar>
+#include <QScrollArea>
 #include <QVBoxLayout>
 #include <array>
 #include <memory>
@@ -14,6 +15,7 @@
 #include "app/slot_header_form.h"
 #include "app/start_menus_form.h"
 #include "calc/run_control.h"
+#include "dialogs/building_data_form.h"
 #include "results/diagram_tabs_form.h"
 #include "results/guide_form.h"
 #include "widgets/message_boxes.h"
@@ -52,16 +54,19 @@ public:
 protected:
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void BuildWindow();
     QWidget* BuildSideBar();
+    void FitSideBar();
     QWidget* BuildResults();
     void MakeDiagramTabs();
     void ConnectSlots();
     void ConnectCalculation();
     void ConnectMenus();
     void ConnectProjectMenus();
+    void ConnectCaseMenus();
     template <class Dialog>
     void OpenDialog();
     void TakeTexts();
@@ -76,6 +81,8 @@ private:
     void ChooseCalculation(float mode);
     void Command10_Click();
     void OpenCaseData();
+    void OpenDemands();
+    void TakeCaseChange(bool resultsOutdated);
     void EditSystemFile();
     void OpenDesignGuide();
     void ShowTold(int text);
@@ -95,6 +102,7 @@ private:
 
     std::unique_ptr<StartMenus> menus_;
     std::array<FamilyFrame*, kShapeCount> families_{};
+    QScrollArea* sideBar_ = nullptr;
     CalculationPanel* panel_ = nullptr;
     SlotHeader* header_ = nullptr;
     QGroupBox* Frame8 = nullptr;  // caption and bar of a run
@@ -104,6 +112,7 @@ private:
     DiagramTabs* SSTab1 = nullptr;
     std::unique_ptr<BarProgress> progress_;
     QPointer<Ststcalcchart> guide_;
+    QPointer<EditBuildingData> editor_;
 };
 
 }  // namespace verandis

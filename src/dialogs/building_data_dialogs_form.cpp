@@ -4,6 +4,9 @@
 
 #include "case/shapes.h"
 #include "dialogs/geometry_form.h"
+#include "dialogs/glazing_form.h"
+#include "dialogs/hvac_form.h"
+#include "dialogs/opaque_form.h"
 #include "dialogs/shade_site_form.h"
 
 namespace verandis {
@@ -23,11 +26,12 @@ const std::array<FactoriesOfShapes, kCaseDataCount>& Factories() {
         // Dimensions
         {Make<GeoUShape>, Make<GeoOShape>, Make<GeoVShape>, Make<GeoIShape>},
         // Walls
-        {},
+        {Make<OpaqueConstrUShape>, Make<OPaqueConstrOShape>, Make<OpaqueConstrVShape>,
+         Make<OpaqueConstrIShape>},
         // Glazing
-        {},
+        {Make<GlazingUShape>, Make<GlazingOShape>, Make<GlazingVShape>, Make<GlazingIShape>},
         // Hvac
-        {},
+        {Make<HVACForm>, Make<HVACForm>, Make<HVACForm>, Make<HVACForm>},
         // Demands
         {},
     }};

@@ -81,7 +81,7 @@ void FieldGrid::AddField(const QString& label, QWidget* field, const QString& un
     caption->setTextFormat(Qt::PlainText);
     caption->setBuddy(field);
     field->setAccessibleName(label);
-    addWidget(caption, row, 0, Qt::AlignLeft | Qt::AlignVCenter);
+    addWidget(caption, row, 0);
     addWidget(field, row, 1);
     if (!unit.isEmpty()) addWidget(new QLabel(unit), row, 2);
 }

@@ -133,19 +133,24 @@ void PaintMeasure(QPainter& painter, const PlanMeasure& measure, const ShapeDraw
                line.center() + outward * (height * 0.5 + 3), line);
 }
 
+bool IsHighlighted(const PlanElements& elements, const PlanStyle& style) {
+    return std::any_of(style.highlight.begin(), style.highlight.end(),
+                       [&](const std::string& id) { return HoldsElement(elements, id); });
+}
+
 void PaintHighlight(QPainter& painter, const ShapeDrawing& drawing, const QTransform& toPixels,
                     const PlanStyle& style) {
     QColor veil = style.accent;
     veil.setAlphaF(0.35F);
     for (const PlanPart& part : drawing.parts) {
-        if (!HoldsElement(part.elements, style.highlight)) continue;
+        if (!IsHighlighted(part.elements, style)) continue;
         painter.setPen(Qt::NoPen);
         painter.setBrush(veil);
         painter.drawPolygon(OutlineOf(part, toPixels));
     }
     painter.setPen(QPen(style.accent, 5, Qt::SolidLine, Qt::RoundCap));
     for (const PlanEdge& edge : drawing.edges) {
-        if (!HoldsElement(edge.elements, style.highlight)) continue;
+        if (!IsHighlighted(edge.elements, style)) continue;
         painter.drawLine(QLineF(toPixels.map(PointOf(edge.from)), toPixels.map(PointOf(edge.to))));
     }
 }

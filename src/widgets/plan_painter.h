@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QTransform>
 #include <string>
+#include <vector>
 
 #include "case/plan.h"
 
@@ -17,10 +18,10 @@ struct PlanStyle {
     QColor glassEdge;
     QColor text;
     QColor measure;  // dimension lines
-    QColor accent;   // the highlighted element
+    QColor accent;   // the highlighted elements
     bool measures = false;
-    bool letters = false;   // in front of each measure's value
-    std::string highlight;  // an element's identifier, whole or short; empty: none
+    bool letters = false;                // in front of each measure's value
+    std::vector<std::string> highlight;  // elements' identifiers, whole or short
 };
 
 /// Colours for a widget's palette.

@@ -93,8 +93,8 @@ void PlanView::SetLetters(bool shown) {
     update();
 }
 
-void PlanView::Highlight(const std::string& element) {
-    highlight_ = element;
+void PlanView::Highlight(std::vector<std::string> elements) {
+    highlight_ = std::move(elements);
     update();
 }
 

@@ -42,8 +42,8 @@ public:
     /// The letters of the dimension dialogs in front of the figures; off at first.
     void SetLetters(bool shown);
 
-    /// Marks the lines and faces of one element ("XU204-W" or "XU204"); empty: none.
-    void Highlight(const std::string& element);
+    /// Marks the lines and faces of these elements ("XU204-W" or "XU204").
+    void Highlight(std::vector<std::string> elements);
 
     /// Reads the slot of the open project anew and draws it. A slot without a file shows the
     /// figures that a new case starts from.
@@ -80,7 +80,7 @@ private:
     Turning turning_ = Turning::Plan;
     bool withSection_ = true;
     bool letters_ = false;
-    std::string highlight_;
+    std::vector<std::string> highlight_;
 };
 
 }  // namespace verandis

@@ -103,9 +103,9 @@ TEST_F(PlanPicture, MarksOneElementOnly) {
     PlanDimensions figures = DefaultDimensions(kShapeU);
     view.ShowFigures(kShapeU, figures);
     EXPECT_EQ(MiddleOf(Tint::Accent), QPointF(-1, -1));
-    view.Highlight("XU001-W");
+    view.Highlight({"XU001-W"});
     EXPECT_LT(MiddleOf(Tint::Accent).x(), MiddleOf(Tint::Building).x() - 0.1);
-    view.Highlight("XU201");
+    view.Highlight({"XU201"});
     EXPECT_GT(MiddleOf(Tint::Accent).y(), MiddleOf(Tint::Building).y() + 0.1);
 }
 
