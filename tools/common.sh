@@ -5,7 +5,8 @@ project="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 cd "$project"
 
 # What the desktop program is built with and, without a screen, drawn with.
-window_packages=(qt6-base-dev qt6-charts-dev libqt6opengl6-dev libgl-dev fonts-dejavu-core)
+window_packages=(qt6-base-dev qt6-charts-dev libqt6opengl6-dev libgl-dev qt6-translations-l10n
+    fonts-dejavu-core)
 
 say() { printf '\n== %s\n' "$*"; }
 

@@ -45,6 +45,7 @@ std::string NumberOnScreen(double value) {
 
 std::string FrequencyCaption(int number) {
     const std::string text = Text(number);
+    if (text.empty()) return "";
     return text.substr(0, text.find(' ')) +
            (session.Language == kSwedish ? " frekvens" : " frequency");
 }

@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QEvent>
 
+#include "app/session.h"
+
 namespace verandis {
 namespace {
 
@@ -31,7 +33,9 @@ BarProgress::BarProgress(QProgressBar& bar) : bar_(bar) {
 }
 
 void BarProgress::LetEventsRun() {
-    if (sinceEvents_.isValid() && sinceEvents_.elapsed() < kEventPause) return;
+    // A dynamic run steps seldom and must not miss a press on its cancel button.
+    const bool often = session.CalcMode != kDynamic;
+    if (often && sinceEvents_.isValid() && sinceEvents_.elapsed() < kEventPause) return;
     QCoreApplication::processEvents();
     sinceEvents_.start();
 }
@@ -54,10 +58,10 @@ bool RunGuard::eventFilter(QObject* receiver, QEvent* event) {
     if (!ComesFromUser(event->type())) return false;
     const auto* widget = qobject_cast<QWidget*>(receiver);
     const QWidget* modal = QApplication::activeModalWidget();
-    if (modal) return widget && widget->window() != modal;
+    const bool reachable = modal ? !widget || widget->window() == modal : receiver == &allowed_;
+    if (reachable) return false;
     // Key presses reach menu commands, which are no widgets, as shortcuts.
-    if (event->type() == QEvent::Shortcut) return true;
-    if (!widget || widget == &allowed_) return false;
+    if (!widget && event->type() != QEvent::Shortcut) return false;
     if (event->type() == QEvent::Close) event->ignore();
     return true;
 }

@@ -73,6 +73,7 @@ struct Session {
 
     std::int16_t ElementKindMark = 0;  // 1 window, 2 wall: written behind the next stored values
     std::uint16_t GlazingGroup = kNoGroup;  // code of the group chosen in a glazing or wall dialog
+    std::string Reply;                 // "InputError" after a check of the constructions failed
     std::string PropertyValue;              // buffer of the last value or slot name
     std::vector<StagedProperty> CasePropertyTable;
 };

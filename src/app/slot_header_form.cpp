@@ -6,6 +6,8 @@
 
 #include "case/property_file.h"
 #include "case/shapes.h"
+#include "platform/files.h"
+#include "projects/slot_activation.h"
 #include "text/separators.h"
 #include "widgets/controls.h"
 #include "widgets/qt_text.h"
@@ -25,7 +27,9 @@ enum : int {
 
 constexpr double kTitleSize = 1.35;  // of the text size
 
+/// Silent: a case need not have such a file.
 std::string PropertyOrNothing(const char* section, const char* key) {
+    if (session.CaseName.empty() || !FileExists(PropertyFilePath())) return {};
     std::string value;
     GetCaseProperty(section, key, value);
     return value == kNotSet ? std::string() : value;
@@ -87,15 +91,19 @@ void SlotHeader::TakeTexts() {
     }
 }
 
-void SlotHeader::Refresh() {
-    if (!IsShape(session.ActiveShape)) {
-        title_->clear();
-        factText_.clear();
-        return ShowFacts();
-    }
+/// The slot in words; the name of an open case that is no slot.
+QString SlotHeader::Title() const {
+    if (!EditedSlotIsOpen()) return Shown(session.CaseName);
     const QString word = Label(WordsOf(session.ActiveShape).textNumber);
-    title_->setText(
-        QString("%1, %2 %3").arg(word, Label(kCaseWord).toLower()).arg(session.ActiveCaseNo));
+    const QString caseWord = Label(kCaseWord).toLower();
+    return QString("%1, %2 %3").arg(word, caseWord).arg(session.ActiveCaseNo);
+}
+
+void SlotHeader::Refresh() {
+    const bool hasData = FileExists(PropertyFilePath()) && !session.CaseName.empty();
+    note_->setEnabled(hasData);
+    data_->setEnabled(hasData && EditedSlotIsOpen());
+    title_->setText(Title());
     QStringList facts;
     if (const QString place = Place(); !place.isEmpty()) {
         facts.append(QString("%1: %2").arg(Label(kClimateWord), place));
@@ -110,7 +118,7 @@ void SlotHeader::Refresh() {
 /// One line; what does not fit is in the tool tip.
 void SlotHeader::ShowFacts() {
     facts_->setText(facts_->fontMetrics().elidedText(factText_, Qt::ElideRight, facts_->width()));
-    facts_->setToolTip(factText_);
+    facts_->setToolTip(factText_.toHtmlEscaped());
 }
 
 bool SlotHeader::eventFilter(QObject* watched, QEvent* event) {

@@ -34,6 +34,7 @@ signals:
     void DataPressed();
 
 private:
+    QString Title() const;
     void ShowFacts();
 
     QString factText_;

@@ -10,7 +10,7 @@
 #include <QVBoxLayout>
 
 #include "app/case_changes.h"
-#include "app/case_note.h"
+#include "app/help_form.h"
 #include "app/program_text.h"
 #include "app/session.h"
 #include "app/settings.h"
@@ -18,17 +18,14 @@
 #include "app/start_up.h"
 #include "app/sys_init_form.h"
 #include "calc/results.h"
-#include "dialogs/demands_form.h"
-#include "libraries/type_library_form.h"
-#include "projects/case_forms_form.h"
-#include "projects/project_list.h"
+#include "projects/slot_activation.h"
 #include "widgets/controls.h"
 #include "widgets/qt_text.h"
 
 namespace verandis {
 namespace {
 
-enum : int { kAboutTitle = 551, kAboutText = 566, kVersionWord = 567, kNoSuchSlot = 564 };
+constexpr int kNoSuchSlot = 564;
 
 constexpr QSize kLeastSize(1024, 700);
 constexpr QSize kFirstSize(1280, 820);
@@ -37,6 +34,7 @@ constexpr QSize kFirstSize(1280, 820);
 
 StartForm::StartForm(QWidget* parent) : QMainWindow(parent) {
     setObjectName("StartForm");
+    UseHelpWindow(this);
     BuildWindow();
     ConnectSlots();
     ConnectCalculation();
@@ -145,58 +143,13 @@ void StartForm::ConnectCalculation() {
             [this] { ChooseCalculation(kSteadyState); });
     connect(panel_->CalcDyn, &QRadioButton::clicked, this, [this] { ChooseCalculation(kDynamic); });
     connect(panel_->Check1, &QCheckBox::clicked, this,
-            [](bool on) { session.ShowGuide = on ? kOn : kOff; });
+            [this](bool on) { Want(session.ShowGuide, on); });
     connect(panel_->Check2, &QCheckBox::clicked, this,
-            [](bool on) { session.ShowDiagrams = on ? kOn : kOff; });
+            [this](bool on) { Want(session.ShowDiagrams, on); });
     connect(panel_->Calculate, &QPushButton::clicked, this, &StartForm::Calculate_Click);
     connect(panel_->Command1, &QPushButton::clicked, this, [] { session.StopCalculation = kOn; });
     connect(panel_->Command10, &QPushButton::clicked, this, &StartForm::Command10_Click);
     connect(panel_->PrintOut, &QPushButton::clicked, this, [this] { SSTab1->PrintActive(); });
-}
-
-void StartForm::ConnectMenus() {
-    ConnectProjectMenus();
-    ConnectCaseMenus();
-    menus_->Connect("M_EditSystemFile", [this] { EditSystemFile(); });
-    menus_->Connect("M_Quit", [this] { close(); });
-    menus_->Connect("GS_Notes", [this] { GS_Notes_Click(); });
-    menus_->Connect("M_Calculate", [this] { Calculate_Click(); });
-    menus_->Connect("M_Clear", [this] { Command10_Click(); });
-    menus_->Connect("M_DesignGuide", [this] { OpenDesignGuide(); });
-    menus_->Connect("M_Print", [this] { SSTab1->PrintActive(); });
-    menus_->Connect("M_About", [this] { ShowAboutBox(); });
-}
-
-template <class Dialog>
-void StartForm::OpenDialog() {
-    Dialog dialog(this);
-    if (dialog.exec() != QDialog::Accepted) return;
-    GoIdle();
-    StartUp();
-}
-
-void StartForm::ConnectProjectMenus() {
-    menus_->Connect("M_NewProject", [this] { OpenDialog<forms::NewProject>(); });
-    menus_->Connect("M_OpenProject", [this] { OpenDialog<forms::OpenProject>(); });
-    menus_->Connect("M_CopyProject", [this] { OpenDialog<forms::CopyProject>(); });
-    menus_->Connect("M_RenameProject", [this] { OpenDialog<forms::RenProject>(); });
-    menus_->Connect("M_DeleteProject", [this] { OpenDialog<forms::DelProject>(); });
-    menus_->Connect("M_NewCase", [this] { OpenDialog<forms::NewCase>(); });
-    menus_->Connect("M_OpenCase", [this] { OpenDialog<forms::OpenCase>(); });
-    menus_->Connect("M_CopyCase", [this] { OpenDialog<forms::CopyCase>(); });
-    menus_->Connect("M_RenameCase", [this] { OpenDialog<forms::RenCase>(); });
-    menus_->Connect("M_ConvertProjectList", [this] {
-        ConvertProjectList();
-        StartUp();
-    });
-}
-
-void StartForm::ConnectCaseMenus() {
-    menus_->Connect("M_EditBuildingData", [this] { OpenCaseData(); });
-    menus_->Connect("M_DesignDemands", [this] { OpenDemands(); });
-    menus_->Connect("M_ReferenceWindows", [this] { ReferenceWindowsLib(this).exec(); });
-    menus_->Connect("M_OpaqueWalls", [this] { OpaqueWallsLib(this).exec(); });
-    OnCaseChanged([this](bool resultsOutdated) { TakeCaseChange(resultsOutdated); });
 }
 
 void StartForm::TakeTexts() {
@@ -206,19 +159,21 @@ void StartForm::TakeTexts() {
     header_->TakeTexts();
     ProgressBar1->setAccessibleName(Label(58));
     MakeDiagramTabs();
+    delete editor_;  // both take their words when they are made
+    delete picture_;
     AssignMnemonics(*this);
     SetCaption(TextFor(61, 1));
 }
 
 /// The load of the window. Nothing of it can stop the start: what is missing shows up later.
 void StartForm::Form_Load() {
-    SysInit settings;
-    const bool asked = !ReadSystemSettings();
-    if (asked) settings.exec();
-    if (!asked || !settings.StartedAnew()) StartSession();
+    if (!ReadSystemSettings()) SysInit(this).exec();
+    UseQtWordsOf(session.Language);
+    StartSession();
     TakeTexts();
     resize(kFirstSize.boundedTo(screen()->availableSize()));
     move(screen()->availableGeometry().center() - rect().center());
+    Command10_Click();
     TakeSession();
     panel_->Calculate->setFocus();
 }
@@ -229,17 +184,21 @@ void StartForm::TakeSession() {
     panel_->Check1->setChecked(session.ShowGuide != kOff);
     panel_->Check2->setChecked(session.ShowDiagrams != kOff);
     SSTab1->AllowTwoCaseView(false);
-    Command10_Click();
+    GoIdle();
+    UnLoadGraphics();
+    runResults.CaseResultCount = {};
     Frame8->hide();
-    for (int shape = 1; shape <= kShapeCount; ++shape) ShowShapePicture(shape, 1);
-    ShowShapePicture(session.ActiveShape, session.ActiveCaseNo);
-    ShowShapeState(session.ActiveShape);
+    ShowPlans();
     StartUp();
 }
 
 void StartForm::StartUp() {
     menus_->Follow(verandis::StartUp());
     menus_->Command("M_Print").setEnabled(panel_->PrintOut->isEnabled());
+    menus_->Command("M_DesignGuide").setEnabled(HasSteadyResults());
+    for (const char* command : {"M_EditBuildingData", "M_DesignDemands", "M_BuildingPicture"}) {
+        menus_->Command(command).setEnabled(EditedSlotIsOpen());
+    }
     setWindowTitle(Shown(session.WindowTitle.empty() ? kProgramTitle : session.WindowTitle));
     header_->Refresh();
     if (editor_) editor_->Refresh();
@@ -249,6 +208,7 @@ void StartForm::ShowShapePicture(int shape, int caseNo) {
     if (!IsShape(shape)) return;
     families_[static_cast<std::size_t>(shape - 1)]->ShowPlan(caseNo);
     Image1->ShowSlot({shape, caseNo});
+    if (picture_) picture_->ShowActiveSlot();
 }
 
 void StartForm::ShowShapeState(int shape) {
@@ -261,6 +221,7 @@ void StartForm::ShowShapeState(int shape) {
 
 /// No results are shown any more; the result files stay on disk.
 void StartForm::GoIdle() {
+    statusBar()->clearMessage();
     HideDiagrams();
     SetCaption(TextFor(61, 1));
     progress_->SetValue(0);
@@ -288,7 +249,7 @@ void StartForm::ChooseCase(int caseNo) {
 void StartForm::PressCase(int caseNo) {
     if (session.RunInProgress) return;
     if (editor_) editor_->Refresh();
-    if (session.ActiveCaseNo == caseNo) {
+    if (session.ActiveCaseNo == caseNo && EditedSlotIsOpen()) {
         ShowShapeState(session.ActiveShape);
         return OpenCaseData();
     }
@@ -307,7 +268,13 @@ void StartForm::Mark(int shape, int caseNo, bool marked) {
     panel_->ShowMarked(count);
 }
 
+void StartForm::Want(std::int16_t& what, bool wanted) {
+    if (session.RunInProgress) return;
+    what = wanted ? kOn : kOff;
+}
+
 void StartForm::ChooseCalculation(float mode) {
+    if (session.RunInProgress) return;
     session.CalcMode = mode;
     panel_->SteadyItems->setVisible(mode != kDynamic);
     SSTab1->EnableTabsFor(mode);
@@ -319,53 +286,11 @@ void StartForm::Command10_Click() {
     UnLoadGraphics();
     ClearMarks();
     for (FamilyFrame* family : families_) family->ClearMarks();
+    steadyResults_ = false;
+    menus_->Command("M_DesignGuide").setEnabled(false);
     panel_->ClearChoice();
     panel_->SteadyItems->show();
     panel_->ShowMarked(0);
-}
-
-void StartForm::OpenCaseData() {
-    if (session.RunInProgress) return;
-    if (!editor_) {
-        editor_ = new EditBuildingData(this);
-        connect(editor_, &EditBuildingData::DemandsWanted, this, &StartForm::OpenDemands);
-    }
-    editor_->Refresh();
-    editor_->show();
-    editor_->raise();
-    editor_->activateWindow();
-}
-
-void StartForm::OpenDemands() {
-    HVACformX(this).exec();
-}
-
-/// A dialog has stored something in the open case.
-void StartForm::TakeCaseChange(bool resultsOutdated) {
-    if (resultsOutdated) AllowPrinting(false);
-    ShowShapePicture(session.ActiveShape, session.ActiveCaseNo);
-    header_->Refresh();
-    if (editor_) editor_->Refresh();
-}
-
-void StartForm::GS_Notes_Click() {
-    if (session.RunInProgress) return;
-    EditCaseNote();
-    header_->Refresh();
-    SSTab1->update();
-}
-
-void StartForm::EditSystemFile() {
-    SysInit dialog(this);
-    if (dialog.exec() != QDialog::Accepted || !dialog.StartedAnew()) return;
-    TakeTexts();
-    TakeSession();
-}
-
-void StartForm::ShowAboutBox() {
-    const std::string version = QApplication::applicationVersion().toStdString();
-    ShowMessage("Verandis\n" + Text(kVersionWord) + " " + version + "\n\n" + Text(kAboutText),
-                Text(kAboutTitle), Icon::Information);
 }
 
 void StartForm::ShowTold(int text) {

@@ -9,6 +9,7 @@
 #include <array>
 #include <memory>
 
+#include "app/building_picture_form.h"
 #include "app/calculation_panel_form.h"
 #include "app/family_frame_form.h"
 #include "app/run_events_form.h"
@@ -67,12 +68,17 @@ private:
     void ConnectMenus();
     void ConnectProjectMenus();
     void ConnectCaseMenus();
+    void ConnectSetMenus();
     template <class Dialog>
     void OpenDialog();
     void TakeTexts();
     void TakeSession();
 
     void Form_Load();
+    void FollowSession();
+    void ShowPlans();
+    void Want(std::int16_t& what, bool wanted);
+    bool HasSteadyResults() const;
     void GoIdle();
     void ChooseFamily(int shape);
     void ChooseCase(int caseNo);
@@ -85,6 +91,7 @@ private:
     void TakeCaseChange(bool resultsOutdated);
     void EditSystemFile();
     void OpenDesignGuide();
+    void ShowBuildingPicture();
     void ShowTold(int text);
 
     void HideDiagrams() override;
@@ -111,7 +118,9 @@ private:
     PlanView* Image1 = nullptr;  // the active slot's plan
     DiagramTabs* SSTab1 = nullptr;
     std::unique_ptr<BarProgress> progress_;
+    bool steadyResults_ = false;  // the result tables are those of a steady-state run
     QPointer<Ststcalcchart> guide_;
+    QPointer<BuildingPicture> picture_;
     QPointer<EditBuildingData> editor_;
 };
 

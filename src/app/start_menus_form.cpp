@@ -4,6 +4,7 @@
 #include <QMenuBar>
 #include <stdexcept>
 
+#include "app/session.h"
 #include "widgets/controls.h"
 #include "widgets/qt_text.h"
 
@@ -50,6 +51,7 @@ constexpr MenuCommand kCommands[] = {
     {"M_Case", "M_EditBuildingData", 515, Needs::Case},
     {"M_Case", "M_DesignDemands", 517, Needs::Case},
     {"M_Case", "GS_Notes", 516, Needs::Case},
+    {"M_Case", "M_BuildingPicture", 961, Needs::Case},
     {"M_Case", "", 0, Needs::Nothing},
     {"M_Case", "M_ReferenceWindows", 518, Needs::Case},
     {"M_Case", "M_OpaqueWalls", 519, Needs::Case},
@@ -66,17 +68,24 @@ constexpr MenuCommand kCommands[] = {
     {"M_Case", "M_Ventilation", 528, Needs::Later},
 
     {kBar, "GS_Sets", 529, Needs::Nothing, true},
-    {"GS_Sets", "GS_Save", 530, Needs::Later},
-    {"GS_Sets", "GS_Load", 531, Needs::Later},
+    {"GS_Sets", "GS_Save", 530, Needs::Project},
+    {"GS_Sets", "GS_Load", 531, Needs::Project},
     {"GS_Sets", "GS_Show", 532, Needs::Later},
-    {"GS_Sets", "GS_Delete", 533, Needs::Later},
+    {"GS_Sets", "GS_Delete", 533, Needs::Project},
+    {"GS_Sets", "GS_Copy", 581, Needs::Project},
+    {"GS_Sets", "GS_List", 582, Needs::Project},
+    {"GS_Sets", "", 0, Needs::Nothing},
+    {"GS_Sets", "GS_Redefine", 583, Needs::Case},
 
     {kBar, "M_Calculation", 543, Needs::Nothing, true},
     {"M_Calculation", "M_Calculate", 544, Needs::Nothing, false, "F5"},
     {"M_Calculation", "M_Clear", 546, Needs::Nothing},
     {"M_Calculation", "", 0, Needs::Nothing},
     {"M_Calculation", "M_DesignGuide", 548, Needs::Nothing, false, "Ctrl+G"},
+    {"M_Calculation", "M_MinTemp", 584, Needs::Later},
     {"M_Calculation", "M_Print", 547, Needs::Nothing, false, "Ctrl+P"},
+    {"M_Calculation", "M_PrintDiagram", 585, Needs::Later},
+    {"M_Calculation", "M_ReportPdf", 586, Needs::Later},
 
     {kBar, "M_Detailed", 534, Needs::Nothing, true},
     {"M_Detailed", "M_ThermalLoads", 535, Needs::Project, true},
@@ -90,7 +99,8 @@ constexpr MenuCommand kCommands[] = {
     {"M_Detailed", "M_Output", 542, Needs::ModelCommands},
 
     {kBar, "M_Help", 13, Needs::Nothing, true},
-    {"M_Help", "M_HelpContents", 247, Needs::Later, false, "F1"},
+    {"M_Help", "M_HelpContents", 247, Needs::Nothing, false, "F1"},
+    {"M_Help", "M_Contact", 960, Needs::Nothing},
     {"M_Help", "M_About", 551, Needs::Nothing},
 };
 
@@ -148,7 +158,10 @@ QAction& StartMenus::Command(const char* command) const {
 }
 
 void StartMenus::Connect(const char* command, std::function<void()> handler) {
-    QObject::connect(&Command(command), &QAction::triggered, &window_, std::move(handler));
+    // Not every way to an action is a key or a press that could be dropped during a run.
+    QObject::connect(&Command(command), &QAction::triggered, &window_, [run = std::move(handler)] {
+        if (!session.RunInProgress) run();
+    });
 }
 
 void StartMenus::TakeTexts() {

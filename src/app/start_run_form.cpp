@@ -30,11 +30,18 @@ void StartForm::Calculate_Click() {
         const RunGuard guard(*panel_->Command1);
         outcome = verandis::Calculate_Click(*this);
     }
+    steadyResults_ = outcome == RunOutcome::Done && session.CalcMode == kSteadyState;
     if (const int text = ToldAfter(outcome)) ShowTold(text);
     StartUp();
 }
 
+bool StartForm::HasSteadyResults() const {
+    return steadyResults_;
+}
+
 void StartForm::HideDiagrams() {
+    // A hidden chart would leave the keys nowhere.
+    if (SSTab1->isAncestorOf(focusWidget())) panel_->Calculate->setFocus();
     SSTab1->hide();
     Image1->show();
 }
@@ -49,7 +56,11 @@ void StartForm::AllowPrinting(bool allowed) {
 }
 
 void StartForm::AllowCancel(bool allowed) {
+    // The one button that works during a run is at hand for the keyboard too.
+    const bool waited = panel_->Command1->hasFocus();
     panel_->Command1->setEnabled(allowed);
+    if (allowed) panel_->Command1->setFocus();
+    if (!allowed && waited) panel_->Calculate->setFocus();
 }
 
 void StartForm::CloseGuide() {
@@ -64,7 +75,7 @@ void StartForm::OpenGuide() {
 }
 
 void StartForm::OpenDesignGuide() {
-    if (!session.RunInProgress) OpenGuide();
+    if (HasSteadyResults()) OpenGuide();
 }
 
 void StartForm::ShowSteadyCharts() {

@@ -76,6 +76,7 @@ void MendProjectLine(const ProjectRow& row, const std::string& folder) {
 MenuState StartUp() {
     ChangeFolder(session.ProjectRoot);
     MenuState menus;
+    menus.newProject = !session.ProjectRoot.empty();
     menus.projectCommands = FileExists(JoinPath(session.ProjectRoot, kProjectListName));
     menus.projectDependent = !session.ProjectName.empty();
     menus.caseDependent =
@@ -115,14 +116,18 @@ bool OpenSession() {
     return OpenHomeProject();
 }
 
-bool StartSession() {
+bool StartProject() {
     session.HelpFile = JoinPath(JoinPath(session.SimulatorFolder, "help"), "VITRAS.CMH");
     const bool opened = OpenSession() && RebuildSlots();
-    session.ShowGuide = kOff;
-    session.ShowDiagrams = kOn;
     session.ElementKindMark = 0;
     StartUp();
     return opened;
+}
+
+bool StartSession() {
+    session.ShowGuide = kOff;
+    session.ShowDiagrams = kOn;
+    return StartProject();
 }
 
 }  // namespace verandis

@@ -33,6 +33,10 @@ bool RebuildSlots();
 /// False when the project is missing.
 bool OpenSession();
 
+/// Catalogue, project of the slots and slots, without the switches: after a change of the folder of
+/// the data. False when the project of the slots is missing.
+bool StartProject();
+
 /// The whole start behind the settings: catalogue, project, slots, switches. False when the project
 /// of the slots is missing.
 bool StartSession();

@@ -1,19 +1,17 @@
 #include "app/sys_init_form.h"
 
-#include <QDesktopServices>
 #include <QLabel>
 #include <QToolButton>
-#include <QUrl>
 #include <QVBoxLayout>
 
 #include "app/folder_browser_form.h"
-#include "app/session.h"
-#include "platform/files.h"
+#include "widgets/help.h"
 #include "widgets/qt_text.h"
 
 namespace verandis {
 namespace {
 
+constexpr int kHelpTopic = 13013;
 constexpr std::array<const char*, 2> kLanguages = {"1", "2"};
 
 /// A caption that also stands before there is a catalogue.
@@ -46,6 +44,7 @@ SysInit::SysInit(QWidget* parent)
       Command1(Named("Command1", new QPushButton(Caption(246, "OK")))),
       Command2(Named("Command2", new QPushButton(Caption(42, "Cancel")))),
       Command3(Named("Command3", new QPushButton(Caption(13, "Help")))) {
+    setObjectName("SysInit");
     setWindowTitle(Caption(245, "System settings"));
     setModal(true);
     PrepareProgress();
@@ -113,14 +112,10 @@ void SysInit::AddLanguage(FieldGrid& grid) {
 }
 
 QLayout* SysInit::ButtonLine() {
-    const QString help = Shown(session.HelpFile);
-    Command3->setEnabled(FileExists(session.HelpFile));
-    if (!Command3->isEnabled()) Command3->setToolTip(Caption(669, "No help is installed"));
     Command1->setDefault(true);
     connect(Command1, &QPushButton::clicked, this, &SysInit::accept);
     connect(Command2, &QPushButton::clicked, this, &QDialog::reject);
-    connect(Command3, &QPushButton::clicked, this,
-            [help] { QDesktopServices::openUrl(QUrl::fromLocalFile(help)); });
+    connect(Command3, &QPushButton::clicked, this, [] { ShowHelp(kHelpTopic); });
     auto* line = new QHBoxLayout;
     line->setSpacing(kGap);
     line->addWidget(Command3);

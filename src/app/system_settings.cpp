@@ -161,7 +161,7 @@ SettingsOutcome AcceptSettings(const Settings& typed, const CopyProgress& progre
     const int language = session.Language;
     ReadSystemSettings();
     if (!before.empty()) session.Language = language;
-    StartSession();
+    StartProject();
     return {true, true, SettingsField::None};
 }
 

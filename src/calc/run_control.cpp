@@ -102,7 +102,6 @@ void StoreCase(const Slot& slot) {
 }
 
 RunOutcome RunSteadyState(RunDisplay& display) {
-    display.AllowPrinting(false);
     display.SetCaption(FrameCaption(TextFor(kSteadyWord, 1)));
     CurrentProgress().SetMaximum(WithDiagramStep(session.MarkedCount * kMonths * kStepsPerMonth));
     ReadRefWindows();
@@ -159,8 +158,8 @@ RunOutcome RunDynamic(RunDisplay& display) {
         ShowMessage(Text(kNotInstalledText), Text(kMarksTitle), Icon::Information);
         return RunOutcome::NotInstalled;
     }
+    session.StopCalculation = kOff;  // a press in the last moments of an earlier run
     display.AllowCancel(true);
-    display.AllowPrinting(false);
     display.SetCaption(FrameCaption(Text(kDynamicWord)));
     CurrentProgress().SetValue(0);
     CurrentProgress().SetMaximum(WithDiagramStep(session.MarkedCount * kStepsPerDynamicCase));
@@ -174,6 +173,7 @@ RunOutcome RunDynamic(RunDisplay& display) {
     if (session.StopCalculation != kOff) {
         session.StopCalculation = kOff;
         CurrentProgress().SetValue(0);
+        display.SetCaption(TextFor(kResultsWord, 1));
         return RunOutcome::Cancelled;
     }
     const auto counts = ReadAllDynamicResults(*run);
@@ -209,7 +209,9 @@ void ClearAfterRunError(RunDisplay& display) {
     display.AllowCancel(false);
     session.StopCalculation = kOff;
     CurrentProgress().SetValue(0);
+    display.CloseGuide();
     display.HideDiagrams();
+    display.SetCaption(TextFor(kResultsWord, 1));
     display.AllowPrinting(false);
     runResults.CaseResultCount = {};
 }
@@ -217,6 +219,7 @@ void ClearAfterRunError(RunDisplay& display) {
 RunOutcome RunOnce(RunDisplay& display) {
     display.CloseGuide();
     display.HideDiagrams();
+    display.AllowPrinting(false);
     display.SetCaption(TextFor(kResultsWord, 1));
     ResetMonthHours();
     runResults.CaseResultCount = {};

@@ -184,28 +184,63 @@ constexpr DrawingTable kPlans[kShapeCount] = {
 struct GableSectionIds {
     std::string_view floorWest, floorSpace, floorEast, wallWest, wallEast, roofWest, roofEast,
         partitionWest, partitionEast, slopeWest, slopeEast;
+    PlanElements fronts, gables;  // seen behind the cut: below the eaves and above
 };
 
 constexpr GableSectionIds kGableIds[kShapeCount] = {
-    {"XU006-F", "XU104-F", "XU007-F", "XU001-W", "XU004-E", "XU009-R", "XU010-R", "XU101-W",
-     "XU102-E", "XU204-W", "XU205-E"},
-    {"XO005-F", "XO105-F", "XO011-F", "XO004-W", "XO002-E", "XO006-R", "XO012-R", "XO102-W",
-     "XO104-E", "XO203-W", "XO204-E"},
+    {"XU006-F",
+     "XU104-F",
+     "XU007-F",
+     "XU001-W",
+     "XU004-E",
+     "XU009-R",
+     "XU010-R",
+     "XU101-W",
+     "XU102-E",
+     "XU204-W",
+     "XU205-E",
+     {"XU201-S"},
+     {"XU202-S", "XU203-N"}},
+    {"XO005-F",
+     "XO105-F",
+     "XO011-F",
+     "XO004-W",
+     "XO002-E",
+     "XO006-R",
+     "XO012-R",
+     "XO102-W",
+     "XO104-E",
+     "XO203-W",
+     "XO204-E",
+     {},
+     {"XO201-S", "XO202-N"}},
     {},
-    {"XI004-F", "XI103-F", "XI009-F", "XI003-W", "XI007-E", "XI005-R", "XI010-R", "XI101-W",
-     "XI102-E", "XI205-W", "XI206-E"},
+    {"XI004-F",
+     "XI103-F",
+     "XI009-F",
+     "XI003-W",
+     "XI007-E",
+     "XI005-R",
+     "XI010-R",
+     "XI101-W",
+     "XI102-E",
+     "XI205-W",
+     "XI206-E",
+     {"XI201-S", "XI202-N"},
+     {"XI203-S", "XI204-N"}},
 };
 
-constexpr std::array<PartRow, 4> GableParts(const GableSectionIds& ids) {
+constexpr std::array<PartRow, 5> GableParts(const GableSectionIds& ids) {
     return {{
-        {Building, Box({West, Floor}, {SpaceWest, Top}), {ids.floorWest}},
-        {Building, Box({SpaceEast, Floor}, {East, Top}), {ids.floorEast}},
+        {Building, Box({West, Floor}, {SpaceWest, Top}), {}},
+        {Building, Box({SpaceEast, Floor}, {East, Top}), {}},
+        {Glass, Box({SpaceWest, Floor}, {SpaceEast, Eaves}), ids.fronts},
         {Glass,
-         {{{SpaceWest, Floor}, {Middle, Floor}, {Middle, Peak}, {SpaceWest, Eaves}}},
-         {ids.floorSpace}},
+         {{{SpaceWest, Eaves}, {Middle, Eaves}, {Middle, Peak}, {SpaceWest, Eaves}}},
+         ids.gables},
         {Glass,
-         {{{Middle, Floor}, {SpaceEast, Floor}, {SpaceEast, Eaves}, {Middle, Peak}}},
-         {ids.floorSpace}},
+         {{{Middle, Eaves}, {SpaceEast, Eaves}, {SpaceEast, Eaves}, {Middle, Peak}}},
+         ids.gables},
     }};
 }
 
@@ -227,8 +262,11 @@ constexpr std::array<EdgeRow, 11> GableEdges(const GableSectionIds& ids) {
 
 // From south to north: the glazed space reaches from the column West to SpaceEast.
 constexpr PartRow kSectionPartsV[] = {
-    {Building, Box({SpaceEast, Floor}, {East, Top}), {"XV005-F"}},
-    {Glass, {{{West, Floor}, {SpaceEast, Floor}, {SpaceEast, Top}, {West, Eaves}}}, {"XV102-F"}},
+    {Building, Box({SpaceEast, Floor}, {East, Top}), {}},
+    {Glass, Box({West, Floor}, {SpaceEast, Eaves}), {"XV201-W", "XV202-E"}},
+    {Glass,
+     {{{West, Eaves}, {SpaceEast, Eaves}, {SpaceEast, Top}, {West, Eaves}}},
+     {"XV204-W", "XV205-E"}},
 };
 constexpr EdgeRow kSectionEdgesV[] = {
     {Wall, {SpaceEast, Top}, {East, Top}, {"XV004-R"}},

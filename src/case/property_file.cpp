@@ -4,6 +4,7 @@
 #include <optional>
 #include <vector>
 
+#include "app/program_text.h"
 #include "app/session.h"
 #include "platform/encoding.h"
 #include "platform/files.h"
@@ -17,6 +18,7 @@ namespace verandis {
 namespace {
 
 constexpr const char* kMissingFile = "No File exist";
+constexpr int kNotWritten = 475;
 
 const StagedProperty* FindStaged(std::string_view section, std::string_view key) {
     const auto& table = session.CasePropertyTable;
@@ -137,7 +139,7 @@ bool SetCaseProperty(const std::string& section, const std::string& key, const s
     }
     for (std::string& line : *lines) line = TrimBlanks(line);
     if (WriteLines(path, *lines)) return true;
-    ShowMessage("The file " + path + " cannot be written", kProgramTitle, Icon::Exclamation);
+    ShowMessage(Text(kNotWritten) + " " + path, kProgramTitle, Icon::Exclamation);
     return false;
 }
 

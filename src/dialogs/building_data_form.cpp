@@ -9,6 +9,7 @@
 #include "case/shapes.h"
 #include "dialogs/building_data_dialogs_form.h"
 #include "dialogs/case_title.h"
+#include "projects/slot_activation.h"
 #include "widgets/controls.h"
 #include "widgets/help.h"
 #include "widgets/qt_text.h"
@@ -17,7 +18,7 @@
 namespace verandis {
 namespace {
 
-enum : int { kHelpText = 13, kCancelText = 42, kEditText = 62, kCloseText = 155, kLaterText = 552 };
+enum : int { kHelpText = 13, kCancelText = 42, kEditText = 62, kCloseText = 155 };
 
 constexpr int kHelpTopic = 12137;
 
@@ -72,8 +73,7 @@ void EditBuildingData::Refresh() {
         const Row& shown = rows_[static_cast<std::size_t>(row.data)];
         const bool opens = CanOpen(row.data);
         shown.option->setEnabled(opens);
-        const bool later = !opens && IsShape(session.ActiveShape);
-        shown.option->setToolTip(Label(later ? kLaterText : row.tip));
+        shown.option->setToolTip(Label(row.tip));
         if (!shown.label) continue;
         const QString state = Shown(StoredState(row.data));
         const QFontMetrics metrics(shown.label->font());
@@ -86,7 +86,9 @@ void EditBuildingData::Refresh() {
 }
 
 bool EditBuildingData::CanOpen(CaseData kind) const {
-    if (kind == CaseData::Demands) return IsShape(session.ActiveShape);
+    // A case that is no slot has no dialogs: they would write into it what is shown of a slot.
+    if (!EditedSlotIsOpen()) return false;
+    if (kind == CaseData::Demands) return true;
     return static_cast<bool>(CaseDialogFactory(kind, session.ActiveShape));
 }
 
@@ -115,10 +117,12 @@ void EditBuildingData::ClearOptions() {
 }
 
 bool EditBuildingData::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::MouseButtonRelease &&
-        static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
+    if (event->type() == QEvent::MouseButtonRelease) {
+        const auto* mouse = static_cast<QMouseEvent*>(event);
         for (const CaseDataRow& row : CaseDataRows()) {
-            if (rows_[static_cast<std::size_t>(row.data)].label == watched) Open(row.data);
+            const QLabel* label = rows_[static_cast<std::size_t>(row.data)].label;
+            if (label != watched || mouse->button() != Qt::LeftButton) continue;
+            if (label->rect().contains(mouse->position().toPoint())) Open(row.data);
         }
     }
     return QDialog::eventFilter(watched, event);

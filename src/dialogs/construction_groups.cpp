@@ -82,9 +82,10 @@ int FirstRow(const std::vector<std::string>& list) {
     return list.empty() ? -1 : 0;
 }
 
-std::string TypeAt(const std::vector<std::string>& list, int row) {
+std::optional<std::string> TypeAt(const std::vector<std::string>& list, int row) {
     const auto at = static_cast<std::size_t>(row);
-    return row >= 0 && at < list.size() ? list[at] : "";
+    if (row < 0 || at >= list.size()) return std::nullopt;
+    return list[at];
 }
 
 std::string ShownWindowU(int row) {

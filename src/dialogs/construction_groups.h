@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -57,8 +58,8 @@ std::string PresentTypes(const ElementGroup& group, std::string_view key,
 /// List position of a row that is shown at first: 0, or -1 in an empty list.
 int FirstRow(const std::vector<std::string>& list);
 
-/// The type at a list position; empty when the list has no such row.
-std::string TypeAt(const std::vector<std::string>& list, int row);
+/// The type at a list position, which may be blank; nothing when the list has no such row.
+std::optional<std::string> TypeAt(const std::vector<std::string>& list, int row);
 
 /// The figures beside a list, in the session's decimal form; empty for a row that is not there.
 std::string ShownWindowU(int row);              // W/m2K

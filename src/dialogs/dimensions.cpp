@@ -5,7 +5,7 @@
 
 #include "app/case_changes.h"
 #include "app/program_text.h"
-#include "calc/properties.h"
+#include "app/run_stop.h"
 #include "case/property_file.h"
 #include "platform/files.h"
 #include "text/characters.h"
@@ -158,14 +158,16 @@ std::size_t DimensionDialog::IndexOf(char letter) const {
 }
 
 const DimensionDialog& DimensionDialogOf(int shape) {
+    if (!IsShape(shape)) StopRun("there is no shape number " + std::to_string(shape));
     return kDialogs[shape - 1];
 }
 
 DimensionTexts LoadDimensions(const DimensionDialog& dialog) {
     DimensionTexts texts;
     for (const DimensionField& field : dialog.fields) {
-        const auto stored = PropertyNumber("DIMENSION", field.key);
-        texts.push_back(stored ? NumberOnScreen(*stored) : field.fallback);
+        std::string stored(kNotSet);  // stays when the case has no file
+        GetCaseProperty("DIMENSION", field.key, stored);
+        texts.push_back(stored == kNotSet ? field.fallback : NumberOnScreen(ToNumber(stored)));
     }
     return texts;
 }
@@ -184,13 +186,13 @@ std::optional<double> TiltLimit(const DimensionDialog& dialog, const DimensionTe
 }
 
 bool StoreDimensions(const DimensionDialog& dialog, const DimensionTexts& texts) {
-    for (const StoredDimension& each : dialog.stored) {
-        const std::string value = NumberText(NumberOf(dialog, texts, each.letter));
-        const bool stored = SetCaseProperty("DIMENSION", each.key, value);
-        if (!stored && FileExists(PropertyFilePath())) return false;
-    }
-    TellCaseChanged(true);
-    return true;
+    const bool all =
+        std::all_of(dialog.stored.begin(), dialog.stored.end(), [&](const StoredDimension& each) {
+            const std::string value = NumberText(NumberOf(dialog, texts, each.letter));
+            return SetCaseProperty("DIMENSION", each.key, value) || !FileExists(PropertyFilePath());
+        });
+    TellCaseChanged(true);  // also when only some rows could be written
+    return all;
 }
 
 PlanDimensions FiguresOf(const DimensionDialog& dialog, const DimensionTexts& texts) {

@@ -77,8 +77,8 @@ QLayout* GeometryForm::MakeFields() {
     QPalette muted = palette();
     muted.setColor(QPalette::WindowText, TintOf(Tint::Muted, *this));
     tiltRemark_->setPalette(muted);
-    tiltRemark_->setVisible(dialog_.tiltLimited);
     grid->addWidget(tiltRemark_, grid->rowCount(), 1, 1, 2);
+    if (!dialog_.tiltLimited) tiltRemark_->hide();
     auto* column = new QVBoxLayout;
     column->addLayout(grid);
     column->addStretch();

@@ -74,7 +74,7 @@ void ShowEitherKind(GlazingChoice& choice, const std::string& value) {
 }
 
 /// The type that an Apply stores for the chosen group.
-std::string ChosenType(const GlazingChoice& choice) {
+std::optional<std::string> ChosenType(const GlazingChoice& choice) {
     return choice.Mode() == kOpaqueKind ? TypeAt(choice.walls, choice.wallRow)
                                         : TypeAt(choice.glazings, choice.glazingRow);
 }
@@ -116,10 +116,8 @@ GlazingChoice LoadGlazing(int shape) {
     choice.dialog = &GlazingDialogOf(shape);
     session.GlazingGroup = kNoGroup;
     LeaveGlazing();
-    ReadWindows();
-    choice.glazings = simpleLibraries.WindowTable.Column(kWindowName);
-    if (choice.dialog->HasWalls()) {
-        ReadWalls();
+    if (ReadWindows()) choice.glazings = simpleLibraries.WindowTable.Column(kWindowName);
+    if (choice.dialog->HasWalls() && ReadWalls()) {
         choice.walls = simpleLibraries.WallTable.Column(kWallName);
     }
     choice.glazingRow = FirstRow(choice.glazings);
@@ -145,10 +143,10 @@ void ChooseKind(GlazingChoice& choice, std::int16_t kind) {
 bool ApplyGlazing(GlazingChoice& choice) {
     const ElementGroup* group = choice.Group();
     if (!group) return true;
-    const std::string type = ChosenType(choice);
-    const bool stored = type.empty() || StoreForGroup(*group, type);
-    if (stored && !type.empty()) TellCaseChanged(false);
-    if (group->eitherKind) {
+    const auto type = ChosenType(choice);
+    const bool stored = !type || StoreForGroup(*group, *type);
+    if (stored && type) TellCaseChanged(false);
+    if (group->eitherKind && stored) {
         // The kind is told no longer, so a further Apply would store the wall's name without it.
         session.ElementKindMark = kNoKind;
         session.GlazingGroup = kNoGroup;

@@ -41,6 +41,7 @@ const TypeListNames kWalls = {
 
 GlazingForm::GlazingForm(int shape, QWidget* parent)
     : QDialog(parent), choice_(LoadGlazing(shape)) {
+    setObjectName(QString("Glazing%1Shape").arg(QChar(WordsOf(shape).letter)));
     setModal(true);
     setWindowTitle(Shown(CaseDialogTitle(kTitleText, shape)));
     BuildWindow();

@@ -25,8 +25,9 @@ std::string ConditionsTitle(int text) {
 }
 
 std::string ShownCondition(const ConditionField& field) {
-    const auto stored = PropertyNumber(field.section, field.key);
-    return stored ? NumberOnScreen(*stored) : field.fallback;
+    std::string stored(kNotSet);  // stays when the case has no file
+    GetCaseProperty(field.section, field.key, stored);
+    return stored == kNotSet ? field.fallback : NumberOnScreen(ToNumber(stored));
 }
 
 bool StoreCondition(const ConditionField& field, const std::string& text) {

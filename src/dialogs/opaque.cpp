@@ -103,8 +103,9 @@ void ShowType(const std::string& section, const char* key, int (*find)(std::stri
     if (value != kNotSet && row >= 0) row = find(value);
 }
 
-void StageType(const std::string& element, const char* key, const std::string& type) {
-    if (!type.empty()) StageCaseProperty(element, key, type);
+void StageType(const std::string& element, const char* key,
+               const std::optional<std::string>& type) {
+    if (type) StageCaseProperty(element, key, *type);
 }
 
 void StageNumber(const std::string& section, const char* key, const std::string& typed) {
@@ -155,10 +156,8 @@ ConstructionChoice LoadConstructions(int shape) {
     session.GlazingGroup = kNoGroup;
     session.ElementKindMark = 0;  // names are stored plain here
     DiscardStagedProperties();
-    ReadWalls();
-    ReadWindows();
-    choice.walls = simpleLibraries.WallTable.Column(kWallName);
-    choice.glazings = simpleLibraries.WindowTable.Column(kWindowName);
+    if (ReadWalls()) choice.walls = simpleLibraries.WallTable.Column(kWallName);
+    if (ReadWindows()) choice.glazings = simpleLibraries.WindowTable.Column(kWindowName);
     choice.wallRow = FirstRow(choice.walls);
     choice.glazingRow = FirstRow(choice.glazings);
     choice.MTB1 = FieldText(kInnerSection, kAbsorptanceKey);
@@ -183,7 +182,9 @@ ConstructionComplaint ValidateConstruction(const ConstructionChoice& choice, Gro
         complaint.selected.push_back(each.field);
         complaint.focus = each.field;  // the last one gets it
     }
-    if (!complaint.empty()) ShowMessage(complaint.text, Text(111), Icon::Exclamation);
+    if (complaint.empty()) return complaint;
+    session.Reply = "InputError";
+    ShowMessage(complaint.text, Text(111), Icon::Exclamation);
     return complaint;
 }
 

@@ -58,6 +58,9 @@ std::vector<ElementGroup> GroupsOf(const ConstructionDialog& dialog, bool buildi
 
 ConstructionForm::ConstructionForm(int shape, QWidget* parent)
     : QDialog(parent), choice_(LoadConstructions(shape)) {
+    constexpr std::array kNames = {"OpaqueConstrUShape", "OPaqueConstrOShape", "OpaqueConstrVShape",
+                                   "OpaqueConstrIShape"};
+    setObjectName(kNames[static_cast<std::size_t>(shape - 1)]);
     setModal(true);
     setWindowTitle(Shown(CaseDialogTitle(kTitleText, shape)));
     BuildWindow();
@@ -126,9 +129,9 @@ QWidget* ConstructionForm::BuildWindowPage() {
     copyWalls_ = Named("CopyWalls", new QPushButton(Label(kCopyText)));
     copyWalls_->setAutoDefault(false);
     copyWalls_->setToolTip(Label(kCopyTip));
-    copyWalls_->setVisible(!choice_.dialog->copies.empty());
     connect(copyWalls_, &QPushButton::clicked, this, &ConstructionForm::CopyWalls_Click);
     column->addWidget(copyWalls_);
+    if (choice_.dialog->copies.empty()) copyWalls_->hide();
     return page;
 }
 
@@ -243,7 +246,11 @@ void ConstructionForm::ShowChoice() {
 
 void ConstructionForm::ShowComplaint(const ConstructionComplaint& complaint) {
     for (const ConstructionField field : complaint.selected) FieldOf(field)->selectAll();
-    if (NumberField* field = FieldOf(complaint.focus)) field->setFocus();
+    NumberField* field = FieldOf(complaint.focus);
+    if (!field) return;
+    // The share is checked where it is hidden too; the keys must not go to what cannot be seen.
+    if (field->isVisible()) return field->setFocus();
+    findChild<QListWidget*>("Walls")->setFocus();
 }
 
 NumberField* ConstructionForm::FieldOf(ConstructionField field) const {

@@ -33,7 +33,8 @@ enum : int {
 
 constexpr int kHelpTopic = 12136;
 constexpr int kPageOfAngle = 15;  // degrees
-constexpr const char* kShownAngles = R"((\d{1,2}|[0-2]\d\d|3[0-5]\d|360)?([.,]\d{0,2})?)";
+constexpr const char* kShownAngles =
+    R"((\d{1,2}|[0-2]\d\d|3[0-5]\d)?([.,]\d{0,2})?|360([.,]0{0,2})?)";
 constexpr int kPlaceRole = Qt::UserRole;
 
 /// Shows the place in front of the base name, which is what a row stands for.

@@ -92,7 +92,8 @@ SiteChoice FillSite() {
     if (const auto folder = ClimateFolderOfCase(session.CaseFolder)) {
         choice.climates = ClimatesIn(*folder);
     }
-    if (const std::string stored = PropertyText("CLIMATE", "FILE"); stored != kNotSet) {
+    const std::string stored = PropertyText("CLIMATE", "FILE");
+    if (stored != kNotSet && !TrimBlanks(stored).empty()) {
         std::vector<std::string> rows;
         for (const Climate& climate : choice.climates) rows.push_back(climate.baseName);
         choice.wanted = TrimBlanks(stored);
@@ -105,11 +106,11 @@ SiteChoice FillSite() {
 
 bool StoreSite(std::string_view climate, std::string_view shownAngle) {
     const std::string path = PropertyFilePath();
-    if (!SetCaseProperty("CLIMATE", "FILE", UpperCase(climate)) && FileExists(path)) return false;
     const std::string angle = NumberText(StoredAngle(shownAngle));
-    if (!SetCaseProperty("ROTATION", "ANGLE", angle) && FileExists(path)) return false;
-    TellCaseChanged(false);
-    return true;
+    const bool stored = SetCaseProperty("CLIMATE", "FILE", UpperCase(climate)) &&
+                        SetCaseProperty("ROTATION", "ANGLE", angle);
+    TellCaseChanged(false);  // also when only the climate could be written
+    return stored || !FileExists(path);
 }
 
 std::string SiteTitle() {

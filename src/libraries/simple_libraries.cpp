@@ -54,21 +54,22 @@ const std::string& LookUp(const TextTable& table, int column, std::string_view n
 
 }  // namespace
 
-void ReadWindows() {
-    ReadTable("SimpWindows.lib", simpleLibraries.WindowTable);
+bool ReadWindows() {
+    return ReadTable("SimpWindows.lib", simpleLibraries.WindowTable);
 }
 
-void ReadRefWindows() {
-    if (!ReadTable("SimpRefWindows.lib", simpleLibraries.RefWindowTable)) return;
+bool ReadRefWindows() {
+    if (!ReadTable("SimpRefWindows.lib", simpleLibraries.RefWindowTable)) return false;
     simpleLibraries.MaxPanes = 0;
     for (int row = 1; row <= simpleLibraries.RefWindowTable.rows(); ++row) {
         const double panes = ToNumber(simpleLibraries.RefWindowTable.Cell(row, kPanes));
         if (panes > simpleLibraries.MaxPanes) simpleLibraries.MaxPanes = WholeNumber(panes);
     }
+    return true;
 }
 
-void ReadWalls() {
-    ReadTable("SimpWalls.lib", simpleLibraries.WallTable);
+bool ReadWalls() {
+    return ReadTable("SimpWalls.lib", simpleLibraries.WallTable);
 }
 
 void ReadSunPanel() {

@@ -47,11 +47,11 @@ struct SimpleLibraries {
 
 extern SimpleLibraries simpleLibraries;
 
-/// Each reads one library into its table. A missing file shows "No File Exist" and leaves the table
-/// as it was.
-void ReadWindows();
-void ReadRefWindows();
-void ReadWalls();
+/// Each reads one library into its table. A missing file shows "No File Exist", leaves the table as
+/// it was and gives false.
+bool ReadWindows();
+bool ReadRefWindows();
+bool ReadWalls();
 
 /// Reads the reference windows, then the coefficients for their pane counts. Throws RunError for
 /// more than three panes.

@@ -182,6 +182,9 @@ QLayout* TypeLibraryForm::MakeFields() {
 QLayout* TypeLibraryForm::MakeButtons() {
     QHBoxLayout* row = MakeButtonRow(help_, {close_, cancel_});
     row->insertWidget(1, contents_);
+    // Enter ends a field; as it closes without storing, Close must not answer to it.
+    close_->setDefault(false);
+    close_->setAutoDefault(false);
     return row;
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "app/program_text.h"
 #include "app/session.h"
 #include "platform/encoding.h"
 #include "platform/files.h"
@@ -17,6 +18,7 @@
 namespace verandis {
 namespace {
 
+enum : int { kNotCopied = 473, kNotRenamed = 474 };
 constexpr const char* kStatusFile = "THERMAL.INP";
 constexpr const char* kWallLibrary = "Walls.Lib";
 constexpr std::string_view kResultEndings[] = {".txt", ".lis", ".ddd", ".ggg", ".ppp"};
@@ -190,7 +192,7 @@ bool CopyCase(const CaseRow& source, const std::string& typedName, const std::st
     const bool copied = CopyTree(FolderOfCase(source.name), target);
     DeleteResultFiles(target);
     CopyWallLibrary(target);
-    if (!copied) return Refuse("The case " + source.name + " cannot be copied");
+    if (!copied) return Refuse(Text(kNotCopied) + " " + source.name);
     return true;
 }
 
@@ -215,7 +217,7 @@ bool RenameCase(const CaseRow& row, const std::string& typedName, const std::str
     const bool sameName = EqualNoCase(row.name, name);
     if (!sameName && !NameAllowed(name)) return false;
     if (!ChangeCaseLine(row, renamed, sameName)) {
-        return Refuse("The case " + row.name + " cannot be renamed");
+        return Refuse(Text(kNotRenamed) + " " + row.name);
     }
     if (EqualNoCase(row.name, session.CaseName)) OpenCase(renamed);
     MarkStagesToRun(FolderOfCase(name), kAllStages);

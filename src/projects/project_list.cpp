@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "app/program_text.h"
 #include "app/session.h"
 #include "platform/encoding.h"
 #include "platform/files.h"
@@ -17,6 +18,7 @@ namespace verandis {
 namespace {
 
 constexpr const char* kConvertTitle = "Convert";
+enum : int { kNotCopied = 473, kNotWritten = 475 };
 constexpr const char* kDeliveredLibraries[] = {"GASTP.INP", "GLASSTP.INP", "Wndtp.LIB",
                                                "OPAQUE.LIB"};
 
@@ -171,7 +173,7 @@ bool CopyProject(const ProjectRow& source, const std::string& typedName) {
     }
     AddProject(name, path);
     if (!CopyTree(source.path, path)) {
-        return Refuse("The folder " + source.path + " cannot be copied");
+        return Refuse(Text(kNotCopied) + " " + source.path);
     }
     for (const CaseRow& row : ReadCases()) DeleteResultFiles(JoinPath(path, row.name));
     return true;
@@ -183,8 +185,12 @@ bool RenameProject(const ProjectRow& row, const std::string& typedName) {
     if (NameClimbs(name)) return RefuseName();
     if (!FileExists(ListPath())) return Refuse("Projectfile does not exist");
     if (FindProject(name)) return Refuse("A project with the same name already exist");
-    if (!ChangeProjectLine(row.name, name)) return Refuse("The project list cannot be written");
-    if (EqualNoCase(row.name, session.ProjectName)) session.ProjectName = LowerCase(name);
+    if (!ChangeProjectLine(row.name, name)) return Refuse(Text(kNotWritten) + " " + ListPath());
+    if (EqualNoCase(row.name, session.ProjectName)) {
+        session.ProjectName = LowerCase(name);
+        const std::string open = session.CaseName.empty() ? "" : " - " + session.CaseName;
+        session.WindowTitle = "THARM (" + session.ProjectName + open + ")";
+    }
     return true;
 }
 
@@ -215,7 +221,7 @@ void ConvertProjectList() {
     if (converted) return say("File " + path + " is already converted");
     say("File " + path + " will be converted");
     if (!CopyFile(path, JoinPath(session.ProjectRoot, "PROJECTS.OLD"))) {
-        return say("The file " + path + " cannot be copied");
+        return say(Text(kNotCopied) + " " + path);
     }
     std::vector<std::string> result;
     for (const ProjectRow& row : rows) {
@@ -223,7 +229,7 @@ void ConvertProjectList() {
         const std::string_view rest = RightOfSeparator(RightOfSeparator(lower, "\\"), "\\");
         result.push_back(LowerCase(row.name) + "\t" + (rest.empty() ? lower : std::string(rest)));
     }
-    if (!WriteLines(path, result)) say("The file " + path + " cannot be written");
+    if (!WriteLines(path, result)) say(Text(kNotWritten) + " " + path);
 }
 
 }  // namespace verandis

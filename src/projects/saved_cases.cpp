@@ -1,5 +1,7 @@
 #include "projects/saved_cases.h"
 
+#include <algorithm>
+
 #include "app/program_text.h"
 #include "app/session.h"
 #include "case/property_file.h"
@@ -8,6 +10,7 @@
 #include "platform/files.h"
 #include "platform/paths.h"
 #include "platform/prompts.h"
+#include "projects/case_list.h"
 #include "projects/project_list.h"
 #include "projects/slot_activation.h"
 #include "text/characters.h"
@@ -41,7 +44,12 @@ enum : int {
     kFromNowOn = 340,
     kNoSlotText = 900,
     kNotWrittenText = 901,
-    kNotReadText = 902
+    kNotReadText = 902,
+    kNotDeletedText = 905,
+    kSavedInSet = 906,
+    kNamelessText = 907,
+    kNoCaseOpen = 963,
+    kRedefineText = 998
 };
 
 std::string InProject(const std::string& file) {
@@ -55,6 +63,18 @@ std::string SlotPropertyFile(const Slot& slot) {
 void AppendFile(std::vector<std::string>& lines, const std::string& path) {
     const auto content = ReadLines(path);
     if (content) lines.insert(lines.end(), content->begin(), content->end());
+}
+
+std::string NoteIn(const std::vector<std::string>& properties) {
+    const std::string note = PropertyIn(properties, "CASE", "NOTE");
+    return note == kNotSet ? "" : std::string(TrimBlanks(note));
+}
+
+/// The text with `word` in place of its "%1".
+std::string WithWord(std::string text, const std::string& word) {
+    constexpr std::string_view kPlace = "%1";
+    const std::size_t at = text.find(kPlace);
+    return at == std::string::npos ? text : text.replace(at, kPlace.size(), word);
 }
 
 bool TellFile(int text, const std::string& file, int title) {
@@ -79,6 +99,17 @@ std::optional<std::string> AskName(int title, int complaintTitle) {
     }
 }
 
+std::optional<std::string> CopyInProject(const std::string& file, const std::string& target) {
+    if (FileExists(InProject(target))) {
+        ShowMessage(Text(kRefusedWord) + " " + Text(kNewNameTitle) + " " + Text(kTakenText),
+                    Text(kCopyTitle), Icon::Exclamation);
+        return std::nullopt;
+    }
+    if (CopyFile(InProject(file), InProject(target))) return target;
+    TellFile(kNotWrittenText, target, kCopyTitle);
+    return std::nullopt;
+}
+
 }  // namespace
 
 SavedCase SavedCaseOf(const std::string& file) {
@@ -87,7 +118,7 @@ SavedCase SavedCaseOf(const std::string& file) {
     if (mark == std::string::npos) return saved;
     saved.set = file.substr(0, mark);
     const std::string behind = file.substr(mark + 1);
-    saved.slot = SlotOfLabel(std::string(LeftOfSeparator(behind, ".")));
+    saved.slot = SlotOfLabel(Left(LeftOfSeparator(behind, "."), 2));
     return saved;
 }
 
@@ -100,6 +131,32 @@ std::vector<SavedCase> SavedCases() {
     return cases;
 }
 
+std::vector<SavedCaseRow> SavedCaseRows() {
+    std::vector<SavedCaseRow> rows;
+    for (const SavedCase& saved : SavedCases()) {
+        SavedCaseRow row{saved.file, saved.file, "-",
+                         NoteIn(SavedProperties(saved.file).value_or(std::vector<std::string>{}))};
+        if (IsShape(saved.slot.shape)) {
+            row.set = saved.set.empty() ? Text(kNamelessText) : saved.set;
+            row.slot = SlotCaption(saved.slot);
+        }
+        rows.push_back(std::move(row));
+    }
+    return rows;
+}
+
+std::string SlotCaption(const Slot& slot) {
+    return Text(WordsOf(slot.shape).textNumber) + " " + std::to_string(slot.caseNo);
+}
+
+std::string NoteOfSlot(const Slot& slot) {
+    return NoteIn(ReadLines(SlotPropertyFile(slot)).value_or(std::vector<std::string>{}));
+}
+
+bool ProjectHasSlot(const Slot& slot) {
+    return FindCase(SlotCaseName(slot)).has_value();
+}
+
 int RefusalOfSetName(const std::string& name) {
     if (name.find(' ') != std::string::npos || NameClimbs(name)) return kBadNameText;
     return Length(name) > kLongestSetName ? kLongNameText : 0;
@@ -109,7 +166,8 @@ std::optional<std::string> AskSetName() {
     return AskName(kSaveTitle, kSaveTitle);
 }
 
-bool SaveSlots(const std::string& name, const std::vector<Slot>& slots) {
+bool SaveSlots(const std::string& name, const std::vector<Slot>& slots,
+               std::vector<Slot>* written) {
     bool all = true;
     for (const Slot& slot : slots) {
         if (!ActivateSlot(slot.caseNo, slot.shape, "")) continue;
@@ -121,9 +179,23 @@ bool SaveSlots(const std::string& name, const std::vector<Slot>& slots) {
         AppendFile(lines, JoinPath(session.CaseFolder, kResultFileName));
         all = WriteLines(InProject(file), lines) || TellFile(kNotWrittenText, file, kSaveTitle);
         if (!all) break;
+        if (written) written->push_back(slot);
     }
     ReactivateEditedSlot();
     return all;
+}
+
+std::string SaveUnderAskedName(const std::vector<Slot>& slots) {
+    const auto name = AskSetName();
+    if (!name) return "";
+    std::vector<Slot> written;
+    SaveSlots(*name, slots, &written);
+    if (written.empty()) return "";
+    std::string told = WithWord(Text(kSavedInSet), name->empty() ? Text(kNamelessText) : *name);
+    for (const Slot& slot : written) {
+        told += (slot == written.front() ? " " : ", ") + SlotLabel(slot);
+    }
+    return told;
 }
 
 std::optional<std::vector<std::string>> SavedProperties(const std::string& file) {
@@ -155,20 +227,25 @@ bool DeleteSavedCase(const std::string& file) {
     const std::string question =
         Text(kConfirmWord) + " " + Text(kDeleteWord) + " " + Text(kCaseWord) + " " + file;
     if (!CurrentPrompts().AskYesNo(question, Text(kDeleteWord))) return false;
-    return DeleteFile(InProject(file));
+    return DeleteFile(InProject(file)) || TellFile(kNotDeletedText, file, kDeleteWord);
 }
 
-bool CopySavedCase(const std::string& file) {
+std::optional<std::string> CopySavedCase(const std::string& file) {
     const auto name = AskName(kNewNameTitle, kCopyTitle);
-    if (!name) return false;
-    const std::string target = *name + file.substr(SavedCaseOf(file).set.size());
-    if (FileExists(InProject(target))) {
-        ShowMessage(Text(kRefusedWord) + " " + Text(kNewNameTitle) + " " + Text(kTakenText),
-                    Text(kCopyTitle), Icon::Exclamation);
-        return false;
-    }
-    return CopyFile(InProject(file), InProject(target)) ||
-           TellFile(kNotWrittenText, target, kCopyTitle);
+    if (!name) return std::nullopt;
+    const std::size_t mark = file.rfind('!');
+    return CopyInProject(file, *name + (mark == std::string::npos ? kEnding : file.substr(mark)));
+}
+
+std::string FileInSlot(const std::string& file, const Slot& slot) {
+    const std::size_t mark = file.rfind('!');
+    const std::size_t point = file.find('.', mark == std::string::npos ? file.rfind('.') : mark);
+    const std::string ending = point == std::string::npos ? kEnding : file.substr(point);
+    return file.substr(0, std::min(mark, point)) + "!" + SlotLabel(slot) + ending;
+}
+
+std::optional<std::string> CopySavedCase(const std::string& file, const Slot& slot) {
+    return CopyInProject(file, FileInSlot(file, slot));
 }
 
 bool RedefineDefault() {
@@ -180,6 +257,11 @@ bool RedefineDefault() {
     const Slot slot{session.ActiveShape, session.ActiveCaseNo};
     return CopyFile(SlotPropertyFile(slot), JoinPath(InProject(family), name)) ||
            TellFile(kNotWrittenText, name, kSaveTitle);
+}
+
+std::string RedefineExplanation() {
+    if (!IsShape(session.ActiveShape)) return Text(kNoCaseOpen);
+    return WithWord(Text(kRedefineText), SlotCaption({session.ActiveShape, session.ActiveCaseNo}));
 }
 
 }  // namespace verandis

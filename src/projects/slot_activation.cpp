@@ -1,6 +1,7 @@
 #include "projects/slot_activation.h"
 
 #include "projects/case_list.h"
+#include "text/characters.h"
 
 namespace verandis {
 
@@ -14,6 +15,21 @@ bool ActivateSlot(int caseNo, int shape, const std::string& /*ignored*/) {
     if (!row) return false;
     OpenCase(*row);
     return true;
+}
+
+bool EditedSlotIsOpen() {
+    return IsShape(session.ActiveShape) &&
+           EqualNoCase(session.CaseName, SlotCaseName({session.ActiveShape, session.ActiveCaseNo}));
+}
+
+bool EditOpenCase() {
+    for (const Slot& slot : AllSlots()) {
+        if (!EqualNoCase(session.CaseName, SlotCaseName(slot))) continue;
+        session.ActiveShape = slot.shape;
+        session.ActiveCaseNo = slot.caseNo;
+        return true;
+    }
+    return false;
 }
 
 void ReactivateEditedSlot() {

@@ -15,6 +15,13 @@ void SlotWord(int shape);
 /// case list has no such row; the open case then stays.
 bool ActivateSlot(int caseNo, int shape, const std::string& ignored);
 
+/// True when the open case is the slot that the window edits.
+bool EditedSlotIsOpen();
+
+/// Makes the open case the slot that the window edits when it is one of the sixteen. False, and
+/// nothing changed, when it is none.
+bool EditOpenCase();
+
 /// Opens the slot that the window edits again; whatever loops over slots ends with it.
 void ReactivateEditedSlot();
 

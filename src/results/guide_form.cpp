@@ -72,16 +72,29 @@ void Enlarge(QLabel& label) {
     label.setFont(font);
 }
 
+/// A choice starts a walk with questions: a turn of the wheel chooses nothing, and an arrow key
+/// opens the list instead of stepping through it.
+class CaseCombo : public QComboBox {
+protected:
+    void wheelEvent(QWheelEvent* event) override { event->ignore(); }
+    void keyPressEvent(QKeyEvent* event) override {
+        const bool arrow = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
+        if (arrow) return showPopup();
+        QComboBox::keyPressEvent(event);
+    }
+};
+
 }  // namespace
 
 Ststcalcchart::Ststcalcchart(QWidget* parent)
     : QDialog(parent),
-      Combo1(Named("Combo1", new QComboBox)),
+      Combo1(Named("Combo1", new CaseCombo)),
       Identification(Named("Identification", PlainLabel())),
       climate_(PlainLabel()),
       Redesign(GroundedLabel("Redesign")),
       Command1(Named("Command1", new QPushButton(Label(kCloseText)))),
       Command2(Named("Command2", new QPushButton(Label(kPrintText)))) {
+    setObjectName("Ststcalcchart");
     setWindowTitle(kGuideCaption);
     Enlarge(*Identification);
     Enlarge(*Redesign);

@@ -20,6 +20,7 @@ constexpr int kColumns = 52;  // characters of the longest question in one line
 }  // namespace
 
 MsgForm::MsgForm(QWidget* parent) : QDialog(parent), Text1(Named("Text1", new QPlainTextEdit)) {
+    setObjectName("MsgForm");
     setWindowTitle(kGuideCaption);
     setModal(true);
     Text1->setReadOnly(true);

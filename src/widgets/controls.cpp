@@ -5,6 +5,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QSet>
+#include <QTabWidget>
 #include <functional>
 
 namespace verandis {
@@ -114,6 +115,12 @@ void AssignMnemonics(QWidget& window) {
             button && !button->text().isEmpty()) {
             captions.append(
                 {button->text(), [button](const QString& text) { button->setText(text); }});
+        } else if (auto* tabs = qobject_cast<QTabWidget*>(widget)) {
+            for (int tab = 0; tab < tabs->count(); ++tab) {
+                captions.append({tabs->tabText(tab), [tabs, tab](const QString& text) {
+                                     tabs->setTabText(tab, text);
+                                 }});
+            }
         } else if (auto* label = qobject_cast<QLabel*>(widget); label && label->buddy()) {
             captions.append(
                 {label->text(), [label](const QString& text) { label->setText(text); }});

@@ -17,7 +17,8 @@ enum : int { kOkText = 246, kCancelText = 42 };
 }  // namespace
 
 InpBox::InpBox(QWidget* parent)
-    : QDialog(parent), Label1(Named("Label1", new QLabel)), Text1(Named("Text1", new QLineEdit)) {
+    : QDialog(parent), Label1(Named("Label1", new QLabel)), Text1(Named("Text1", new NumberField)) {
+    setObjectName("InpBox");
     Label1->setTextFormat(Qt::PlainText);
     Label1->setWordWrap(true);
     Label1->setBuddy(Text1);
@@ -46,6 +47,7 @@ void InpBox::Ask(const InputQuestion& question) {
     Label1->setText(Shown(question.prompt));
     Text1->setAccessibleName(Shown(question.prompt));
     Text1->setText(Shown(question.initial));
+    Text1->SetGuarded(question.numeric);
     if (question.longest) Text1->setMaxLength(*question.longest);
     Text1->selectAll();
     Text1->setFocus();

@@ -2,9 +2,10 @@
 
 #include <QDialog>
 #include <QLabel>
-#include <QLineEdit>
 #include <optional>
 #include <string>
+
+#include "widgets/number_field.h"
 
 namespace verandis {
 
@@ -34,7 +35,7 @@ public:
 private:
     InputQuestion question_;
     QLabel* Label1;
-    QLineEdit* Text1;
+    NumberField* Text1;
 };
 
 }  // namespace verandis

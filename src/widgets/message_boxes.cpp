@@ -29,7 +29,7 @@ QString WordOr(int text, const char* builtIn) {
 void Prepare(QMessageBox& box, const std::string& text, const std::string& title) {
     box.setTextFormat(Qt::PlainText);
     box.setWindowTitle(Shown(title));
-    box.setText(Shown(text).trimmed());
+    box.setText(Shown(text));
 }
 
 int Ask(const std::string& text, const std::string& title, bool withCancel) {
@@ -45,6 +45,7 @@ int Ask(const std::string& text, const std::string& title, bool withCancel) {
         escape->setObjectName("Cancel");
     }
     box.setEscapeButton(escape);
+    box.setDefaultButton(no);  // what is asked may delete something
     box.exec();
     return box.buttonRole(box.clickedButton());
 }

@@ -23,6 +23,7 @@ double NumberField::Number() const {
 }
 
 void NumberField::Guard() {
+    if (!guarded_) return;
     const QString typed = text();
     const QString guarded = Shown(GuardedNumber(Typed(before_), Typed(typed)));
     if (guarded == typed) return;

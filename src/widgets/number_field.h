@@ -20,8 +20,13 @@ public:
     /// The number of the text, read with either decimal sign; 0 when it holds none.
     double Number() const;
 
+    /// Whether typing is guarded; it is at first. A field that takes words and numbers switches it.
+    void SetGuarded(bool guarded) { guarded_ = guarded; }
+
 private:
     void Guard();
+
+    bool guarded_ = true;
 
     QString before_;  // the text in front of the user's last change
 };

@@ -11,6 +11,8 @@
 namespace verandis {
 namespace {
 
+constexpr double kStaleOpacity = 0.4;
+
 enum : int {
     kBuildingText = 201,
     kGlazedSpaceText = 203,
@@ -105,13 +107,30 @@ void PlanView::ShowSlot(const Slot& slot) {
 void PlanView::ShowFigures(int shape, const PlanDimensions& dimensions) {
     shape_ = shape;
     dimensions_ = dimensions;
-    plan_ = PlanOf(shape, dimensions);
-    section_ = SectionOf(shape, dimensions);
+    ShapeDrawing plan = PlanOf(shape, dimensions);
+    ShapeDrawing section = SectionOf(shape, dimensions);
+    const PlanFault worst = plan.valid() ? section.fault : plan.fault;
+    stale_ = letters_ && worst != PlanFault::None;
+    if (stale_) {
+        KeepADrawing(shape);
+    } else {
+        plan_ = std::move(plan);
+        section_ = std::move(section);
+    }
+    fault_ = worst;
     setAccessibleName(Label(kPlanText));
-    const std::string fault = PlanFaultText(plan_.fault);
+    const std::string fault = PlanFaultText(stale_ ? worst : plan_.fault);
     setAccessibleDescription(Shown(fault.empty() ? PlanDescription(shape, dimensions) : fault));
     setToolTip(Shown(fault));
     update();
+}
+
+/// Where letters are told, the last figures that gave a drawing stay, or else those of a new case:
+/// a complaint speaks of the letters.
+void PlanView::KeepADrawing(int shape) {
+    if (plan_.valid() && section_.valid() && !plan_.parts.empty()) return;
+    plan_ = PlanOf(shape, DefaultDimensions(shape));
+    section_ = SectionOf(shape, DefaultDimensions(shape));
 }
 
 QSize PlanView::sizeHint() const {
@@ -171,8 +190,19 @@ void PlanView::PaintThumbnail(QPainter& painter) {
                     style.measure);
 }
 
+/// The reason why the drawing does not follow the figures, at the foot; tells its height.
+double PlanView::PaintStaleReason(QPainter& painter, const QRectF& area) {
+    const QString reason = Shown(PlanFaultText(fault_));
+    constexpr int kFlags = Qt::AlignHCenter | Qt::AlignBottom | Qt::TextWordWrap;
+    painter.setPen(palette().color(QPalette::WindowText));
+    painter.drawText(area, kFlags, reason);
+    painter.setOpacity(kStaleOpacity);
+    return painter.boundingRect(area, kFlags, reason).height() + kGap;
+}
+
 void PlanView::PaintFull(QPainter& painter) {
     QRectF area = QRectF(rect()).adjusted(kGap, kGap, -kGap, -kGap);
+    if (stale_) area.setBottom(area.bottom() - PaintStaleReason(painter, area));
     area.setBottom(area.bottom() - PaintLegend(painter, area) - kGap);
     const double line = fontMetrics().height();
     const double radius = line * 0.8;

@@ -60,6 +60,8 @@ protected:
 
 private:
     void PaintFault(QPainter& painter);
+    void KeepADrawing(int shape);
+    double PaintStaleReason(QPainter& painter, const QRectF& area);
     void PaintThumbnail(QPainter& painter);
     void PaintFull(QPainter& painter);
     void PaintPair(QPainter& painter, const QRectF& area);
@@ -80,6 +82,8 @@ private:
     Turning turning_ = Turning::Plan;
     bool withSection_ = true;
     bool letters_ = false;
+    bool stale_ = false;  // the drawing is of earlier figures
+    PlanFault fault_ = PlanFault::None;
     std::vector<std::string> highlight_;
 };
 

@@ -18,6 +18,10 @@ QString ShownInCaption(std::string_view text);
 /// places. For buttons, labels and menus.
 QString Label(int text, int role = 1);
 
+/// Takes the window system's own words (print and file dialogs, menus of fields) in the language
+/// with this number where they are installed.
+void UseQtWordsOf(int language);
+
 /// The text of a control as the core takes it.
 std::string Typed(const QString& text);
 

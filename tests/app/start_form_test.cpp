@@ -2,6 +2,8 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
 #include <QStatusBar>
@@ -12,6 +14,7 @@
 #include "calc/results.h"
 #include "case/property_file.h"
 #include "platform/files.h"
+#include "projects/case_list.h"
 #include "projects/slot_activation.h"
 #include "support/form_test.h"
 
@@ -22,6 +25,7 @@ using testing_support::Bytes;
 using testing_support::Control;
 using testing_support::OnDisk;
 using testing_support::Press;
+using testing_support::Type;
 
 class MainWindow : public testing_support::DeliveredRootTest {
 protected:
@@ -72,7 +76,7 @@ TEST_F(MainWindow, StartsIdleWithTheFirstCaseOfTheLeanToOpen) {
     EXPECT_FALSE(Get<QAction>("M_Export").isVisible());
     EXPECT_TRUE(Get<QAction>("M_OpenProject").isEnabled());
     EXPECT_TRUE(Get<QAction>("M_ThermalLoads").isEnabled());
-    for (const char* never : {"M_Library", "M_MOdel", "M_Output", "GS_Save"}) {
+    for (const char* never : {"M_Library", "M_MOdel", "M_Output", "M_Surfaces"}) {
         EXPECT_FALSE(Get<QAction>(never).isEnabled()) << never;
         EXPECT_NE(Get<QAction>(never).toolTip(), Get<QAction>(never).text()) << never;
     }
@@ -278,6 +282,48 @@ TEST_F(DynamicWindow, OnlyTheCancelButtonReactsDuringARun) {
     EXPECT_FALSE(Get<QCheckBox>("ChkCase22").isChecked());
     EXPECT_EQ(session.StopCalculation, kOff);
     ExpectIdle();
+}
+
+TEST_F(MainWindow, FollowsTheProjectAndCaseThatADialogOpens) {
+    const auto run = [&](const char* command, const std::function<void(QWidget&)>& inDialog) {
+        QTimer::singleShot(0, [&] { inDialog(*QApplication::activeModalWidget()); });
+        Get<QAction>(command).trigger();
+    };
+    const auto choose = [](const char* list, int row) {
+        return [=](QWidget& dialog) {
+            Control<QListWidget>(dialog, list).setCurrentRow(row);
+            testing_support::Press(Control<QPushButton>(dialog, "Command1"));
+        };
+    };
+    const auto slots_ = ReadCases();
+    const auto at = [&](const char* name) {
+        return static_cast<int>(std::find_if(slots_.begin(), slots_.end(),
+                                             [&](const auto& row) { return row.name == name; }) -
+                                slots_.begin());
+    };
+    run("M_OpenCase", choose("CaseList", at("oshape3")));
+    EXPECT_EQ(form->windowTitle(), "THARM (verandis - oshape3)");
+    EXPECT_EQ(session.ActiveShape, 2);
+    EXPECT_TRUE(Get<QRadioButton>("ActiveCase3").isChecked());
+    EXPECT_TRUE(Get<QPushButton>("CommO1_2").isChecked());
+
+    run("M_OpenCase", choose("CaseList", at("oshape")));  // a template, which is no slot
+    EXPECT_EQ(Get<QLabel>("ActiveSlot").text(), "oshape");
+    EXPECT_FALSE(Get<QWidget>("EditData").isEnabled());
+    Press("CommO1_2");  // and back to the slot
+    EXPECT_EQ(session.CaseName, "oshape3");
+
+    run("M_NewProject", [](QWidget& dialog) {
+        Type(Control<QLineEdit>(dialog, "ProjectName"), "second");
+        testing_support::Press(Control<QPushButton>(dialog, "Command1"));
+    });
+    EXPECT_EQ(form->windowTitle(), "THARM (second)");
+    EXPECT_FALSE(Get<QAction>("M_Case").isEnabled());
+    EXPECT_FALSE(Get<QAction>("M_OpenCase").isEnabled());
+    EXPECT_FALSE(Get<QWidget>("EditNote").isEnabled());
+    Press("Frame2");
+    EXPECT_EQ(form->statusBar()->currentMessage().toStdString(), Text(564));
+    EXPECT_TRUE(prompts.shown.empty()) << prompts.shown[0].text;
 }
 
 TEST_F(MainWindow, ANoteIsShownAndStored) {

@@ -105,7 +105,7 @@ constexpr const char* kNone = "No case is marked.\n\n\n\n";
 constexpr const char* kTooMany =
     "At most four cases are calculated in one run; three or fewer are easier to read.\n\n\n\n";
 constexpr const char* kSteadyLog =
-    "print- [Results glazed space; steady-state calculation] cancel- ";
+    "[Results glazed space; steady-state calculation] cancel- ";
 
 TEST_F(Runs, MarksDecideWhatIsCalculatedAndTold) {
     const std::tuple<Labels, float, RunOutcome, const char*, const char*> rows[] = {
@@ -118,7 +118,7 @@ TEST_F(Runs, MarksDecideWhatIsCalculatedAndTold) {
         SCOPED_TRACE(labels.size());
         session.CalcMode = mode;
         EXPECT_EQ(Run(labels), outcome);
-        EXPECT_EQ(runLog, std::string("hide [Results] ") + log + "black");
+        EXPECT_EQ(runLog, std::string("hide print- [Results] ") + log + "black");
         EXPECT_EQ(prompts.shown.empty() ? "" : prompts.shown.at(0).text, message);
         EXPECT_EQ(prompts.shown.empty() ? "Calculation" : prompts.shown[0].title, "Calculation");
         for (const char* label : labels) {
@@ -163,7 +163,7 @@ TEST_F(Runs, GuideComesBeforeTheFilesAndTheLastStepNeverLands) {
     EXPECT_EQ(progress.maximum(), 73);
     EXPECT_EQ(progress.value(), 72);
     EXPECT_EQ(runLog,
-              "hide [Results] print- [Results glazed space; steady-state calculation] guide "
+              "hide print- [Results] [Results glazed space; steady-state calculation] guide "
               "steady show print+ cancel- black");
 }
 
@@ -184,7 +184,7 @@ TEST_F(Runs, ErrorLeavesTheWindowIdleAndTheEditedSlotOpen) {
         const std::string& text = prompts.shown[0].text;
         EXPECT_TRUE(text.starts_with("Run-time error: Case ushape3")) << text;
         EXPECT_NE(text.find(told), std::string::npos) << text;
-        EXPECT_TRUE(runLog.ends_with("cancel- hide print- ")) << runLog;
+        EXPECT_TRUE(runLog.ends_with("cancel- hide [Results] print- ")) << runLog;
         EXPECT_EQ(session.StopCalculation + progress.value(), 0);
         EXPECT_EQ(runResults.CaseResultCount[1][1], 0);
         EXPECT_EQ(session.CaseName, "vshape1");
@@ -208,13 +208,13 @@ TEST_F(Runs, DynamicRunGeneratesAllBeforeAnyStage) {
          "makeU1 makeU2 makeU3 runU1 runU2 runU3 U1@1 U2@2 U3@3 dynamic two- print+ series show ",
          22},
         {{"U1"}, "makeU1 runU1 U1@1 ", 7},
-        {{"U1", "V1"}, "makeU1 makeV1 ", 0}};
+        {{"U1", "V1"}, "makeU1 makeV1 [Results] ", 0}};
     for (const auto& [labels, log, value] : rows) {
         run.cancel = value == 0;
         session.ShowDiagrams = value == 7 ? kOff : kOn;
         EXPECT_EQ(Run(labels), run.cancel ? RunOutcome::Cancelled : RunOutcome::Done);
         EXPECT_EQ(runLog,
-                  "hide [Results] cancel+ print- [Results glazed space; dynamic calculation] " +
+                  "hide print- [Results] cancel+ [Results glazed space; dynamic calculation] " +
                       log + "cancel- black");
         EXPECT_EQ(progress.maximum(), 13 * int(labels.size()) + (value == 7 ? 0 : 1));
         EXPECT_EQ(progress.value(), value) << log;

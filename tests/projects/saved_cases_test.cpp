@@ -107,6 +107,41 @@ TEST_F(SavedCaseFiles, AreCopiedUnderAnotherNameButNeverOverACase) {
     EXPECT_FALSE(OnDisk(Saved("New!U2.CAS")));
 }
 
+struct NameRow {
+    const char* file;
+    const char* set;
+    Slot slot;
+    const char* inO3;
+};
+
+TEST_F(SavedCaseFiles, TellSetAndSlotByTheirNames) {
+    constexpr NameRow kRows[] = {
+        {"A!U2.CAS", "A", {1, 2}, "A!O3.CAS"},
+        {"!i4.cas", "", {4, 4}, "!O3.cas"},
+        {"a!b.c!V1.CAS", "a!b.c", {3, 1}, "a!b.c!O3.CAS"},
+        {"A!U2 old.CAS", "A", {1, 2}, "A!O3.CAS"},  // only two characters are read
+        {"A!U5.CAS", "A", {}, "A!O3.CAS"},
+        {"A!.CAS", "A", {}, "A!O3.CAS"},
+        {"my.loose.CAS", "", {}, "my.loose!O3.CAS"},
+    };
+    for (const NameRow& row : kRows) {
+        const SavedCase saved = SavedCaseOf(row.file);
+        EXPECT_EQ(saved.set, row.set) << row.file;
+        EXPECT_EQ(saved.slot, row.slot) << row.file;
+        EXPECT_EQ(FileInSlot(row.file, {2, 3}), row.inO3);
+    }
+}
+
+TEST_F(SavedCaseFiles, TellWhatIsOnDiskWhenSavingStops) {
+    session.ProgramText = Catalogue({"20906, In %1:", "20907, none", "20901, No:"});
+    PutBytes(Saved("Half!V1.CAS/in_the_way"), "");
+    prompts.replies = {"Half", ""};
+    EXPECT_EQ(SaveUnderAskedName({{1, 1}, {1, 2}, {3, 1}}), "In Half: U2");
+    EXPECT_EQ(prompts.shown.back().text, "No: Half!V1.CAS");
+    EXPECT_EQ(SaveUnderAskedName({{3, 1}, {1, 2}}), "In none: V1, U2");
+    EXPECT_EQ(SaveUnderAskedName({{1, 1}}), "") << "cancelled";
+}
+
 class AllSlotsSaved : public testing_support::DeliveredRootTest {};
 
 TEST_F(AllSlotsSaved, ComeBackAfterAStartAsTheyWere) {
