@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Builds the program that photographs the windows and writes the pictures of the documentation to
-# docs/pictures/; with arguments: FOLDER [language 1|2] [light|dark] [font percent].
+# docs/pictures/ and the figures of the help pages; with arguments: FOLDER [language 1|2] [light|dark] [font percent].
 source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 
 need_packages g++ cmake ninja-build "${window_packages[@]}"
@@ -8,7 +8,7 @@ build="${VERANDIS_BUILD:-build/screenshots}"
 say "Building in $build"
 cmake -G Ninja -B "$build" -DCMAKE_BUILD_TYPE=Release -DVERANDIS_SCREENSHOTS=ON \
     -DBUILD_TESTING=OFF >/dev/null
-cmake --build "$build" --target screenshots verandis-cli delivered
+cmake --build "$build" --target screenshots help_figures verandis-cli delivered
 
 folder="$(mktemp -d)"
 trap 'rm -rf "$folder"' EXIT
@@ -25,4 +25,5 @@ fi
 mkdir -p docs/pictures
 cp "$folder/pictures/tab1.png" docs/pictures/main-window.png
 cp "$folder/pictures/start.png" docs/pictures/start.png
+"$build/help_figures" data/MWTHARM/help
 say "docs/pictures holds main-window.png and start.png"
