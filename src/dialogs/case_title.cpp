@@ -17,6 +17,12 @@ std::string CaseDialogTitle(int text, int shape) {
            std::to_string(session.ActiveCaseNo) + ")";
 }
 
+std::string CountedCaseTitle(int text) {
+    const char* counted = session.ActiveShape == kShapeI ? " number " : " index ";
+    return Text(text) + " (" + ShapeWord(session.ActiveShape) + "/" + Text(kCaseText) + counted +
+           std::to_string(session.ActiveCaseNo) + ")";
+}
+
 std::string ShapeWord(int shape) {
     return IsShape(shape) ? Text(WordsOf(shape).textNumber) : "";
 }

@@ -11,6 +11,10 @@ namespace verandis {
 /// "Dimensions(U-shape/case index 1)". An unknown shape has no word.
 std::string CaseDialogTitle(int text, int shape);
 
+/// The other caption of a dialog of the active slot: "Set points (U-shape/Case index 1)". The I
+/// shape counts by "number".
+std::string CountedCaseTitle(int text);
+
 /// Catalogue text of the shape's word in the session's language; empty for an unknown shape.
 std::string ShapeWord(int shape);
 

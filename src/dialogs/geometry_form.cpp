@@ -42,6 +42,8 @@ GeometryForm::GeometryForm(int shape, const char* name, QWidget* parent)
       Command3(Named("Command3", new QPushButton(Label(kCloseText)))) {
     setObjectName(name);
     sketch_->SetLetters(true);
+    const int line = fontMetrics().height();
+    sketch_->setMinimumSize(line * 24, line * 18);
     auto* sides = new QHBoxLayout;
     sides->setSpacing(2 * kGap);
     sides->addLayout(MakeFields());

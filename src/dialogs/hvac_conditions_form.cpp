@@ -5,6 +5,7 @@
 #include "app/program_text.h"
 #include "app/session.h"
 #include "case/shapes.h"
+#include "dialogs/case_title.h"
 #include "platform/prompts.h"
 #include "widgets/controls.h"
 #include "widgets/qt_text.h"
@@ -39,7 +40,7 @@ ConditionsForm::ConditionsForm(const char* name, int title, int checkTitle, QWid
       grid_(new QGridLayout),
       rows_(new QVBoxLayout(this)) {
     setObjectName(name);
-    setWindowTitle(Shown(ConditionsTitle(title)));
+    setWindowTitle(Shown(CountedCaseTitle(title)));
     grid_->setHorizontalSpacing(kMargin);
     grid_->setVerticalSpacing(kGap);
     grid_->setColumnStretch(kLabelColumn, 1);

@@ -29,9 +29,6 @@ struct ConditionComplaints {
     bool empty() const { return text.empty(); }
 };
 
-/// Caption of a dialog of the active case: "Design demands (U-shape/Case index 1)".
-std::string ConditionsTitle(int text);
-
 /// The row's number in the session's decimal form, or the field's fallback.
 std::string ShownCondition(const ConditionField& field);
 

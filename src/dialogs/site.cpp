@@ -24,7 +24,6 @@ namespace verandis {
 namespace {
 
 enum : int {
-    kCaseText = 196,
     kSiteText = 219,
     kNotTurnedText = 808,
     kClockwiseText,
@@ -114,10 +113,7 @@ bool StoreSite(std::string_view climate, std::string_view shownAngle) {
 }
 
 std::string SiteTitle() {
-    // The I shape counts by "number", the others by "index".
-    const char* counted = session.ActiveShape == kShapeI ? " number " : " index ";
-    return Text(kSiteText) + " (" + ShapeWord(session.ActiveShape) + "/" + Text(kCaseText) +
-           counted + std::to_string(session.ActiveCaseNo) + ")";
+    return CountedCaseTitle(kSiteText);
 }
 
 double StoredAngle(std::string_view shownAngle) {

@@ -4,6 +4,7 @@
 #include "app/program_text.h"
 #include "app/session.h"
 #include "case/property_file.h"
+#include "dialogs/case_title.h"
 #include "dialogs/demands.h"
 #include "support/session_test.h"
 #include "text/separators.h"
@@ -45,9 +46,9 @@ protected:
 TEST_F(Conditions, TitlesCountTheIShapeByNumber) {
     session.ActiveCaseNo = 3;
     session.ActiveShape = kShapeI;
-    EXPECT_EQ(ConditionsTitle(822), "Design demands (I-shape/Case number 3)");
+    EXPECT_EQ(CountedCaseTitle(822), "Design demands (I-shape/Case number 3)");
     session.ActiveShape = kShapeV;
-    EXPECT_EQ(ConditionsTitle(821), "Set points and loads (V-shape/Case index 3)");
+    EXPECT_EQ(CountedCaseTitle(821), "Set points and loads (V-shape/Case index 3)");
 }
 
 TEST_F(Conditions, DemandsShowTheirDefaultsAndTheUsersDecimalSign) {
