@@ -22,9 +22,3 @@ add_custom_command(
     COMMENT "Making the delivered data"
     VERBATIM)
 add_custom_target(delivered ALL DEPENDS ${delivered}/stamp)
-
-install(DIRECTORY ${delivered}/CLIM ${delivered}/MWTHARM ${delivered}/PROJECT ${delivered}/WTHARM
-    DESTINATION ${CMAKE_INSTALL_DATADIR}/verandis/data)
-install(TARGETS verandis-cli verandis-climate)
-install(FILES ${PROJECT_SOURCE_DIR}/docs/verandis-cli.1 ${PROJECT_SOURCE_DIR}/docs/verandis-climate.1
-    DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)

@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QIcon>
 #include <iostream>
 
 #include "app/picture_run_form.h"
@@ -9,7 +10,18 @@
 
 namespace {
 
+/// Compiled in, so that a program that runs from its build folder shows it too.
+QIcon WindowIcon() {
+    QIcon icon;
+    for (const char* size : {"16", "32", "48", "128", "256"}) {
+        icon.addFile(QString(":/icons/verandis-%1.png").arg(size));
+    }
+    return icon;
+}
+
 int OpenWindow() {
+    QApplication::setDesktopFileName("verandis");
+    QApplication::setWindowIcon(WindowIcon());
     verandis::MessageBoxes boxes;
     verandis::UsePrompts(boxes);
     verandis::StartForm window;
@@ -17,15 +29,20 @@ int OpenWindow() {
     return QApplication::exec();
 }
 
-int WritePictures(const QCommandLineParser& options) {
+int RunWithoutWindow(const QCommandLineParser& options) {
     verandis::ConsolePrompts console(std::cerr, false, false);
     verandis::UsePrompts(console);
-    std::vector<std::string> labels;
+    verandis::WindowlessRun run;
     for (const QString& label : options.positionalArguments()) {
-        labels.push_back(label.toStdString());
+        run.labels.push_back(label.toStdString());
     }
-    return verandis::WriteDiagramsOf(labels, options.value("pictures").toStdString(),
-                                     options.value("system").toStdString());
+    run.system = options.value("system").toStdString();
+    run.language = options.value("language").toInt();
+    run.pictures = options.value("pictures").toStdString();
+    run.report = options.value("report").toStdString();
+    if (run.language >= 0 && run.language <= 2) return verandis::RunWithoutWindow(run);
+    std::cerr << "A language is 1 (Swedish) or 2 (English)\n";
+    return 1;
 }
 
 }  // namespace
@@ -42,9 +59,14 @@ int main(int count, char** arguments) {
         {"pictures",
          "Calculate the slots and write their diagrams into <folder>, without a window.",
          "folder"});
-    options.addOption({"system", "With --pictures: the data root.", "folder"});
-    options.addPositionalArgument("slots", "With --pictures: up to four of U1 to I4.", "[slot...]");
+    options.addOption(
+        {"report", "Calculate the slots and write a report into the PDF <file>, without a window.",
+         "file"});
+    options.addOption({"system", "Without a window: the data root.", "folder"});
+    options.addOption({"language", "Without a window: 1 Swedish, 2 English.", "number"});
+    options.addPositionalArgument("slots", "Without a window: up to four of U1 to I4.",
+                                  "[slot...]");
     options.process(application);
-    if (options.isSet("pictures")) return WritePictures(options);
+    if (options.isSet("pictures") || options.isSet("report")) return RunWithoutWindow(options);
     return OpenWindow();
 }

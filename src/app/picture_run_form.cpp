@@ -10,6 +10,7 @@
 #include "platform/files.h"
 #include "platform/prompts.h"
 #include "results/diagram_pictures_form.h"
+#include "results/run_report_form.h"
 
 namespace verandis {
 namespace {
@@ -29,24 +30,31 @@ bool MarkSlot(const std::string& label) {
     return true;
 }
 
+/// Settings, catalogue and project, as the run wants them.
+bool Prepare(const WindowlessRun& run) {
+    const bool stored = ReadSystemSettings();
+    if (run.language != 0) session.Language = run.language;
+    if (!run.system.empty()) UseSystemPath(run.system);
+    if ((stored || !run.system.empty()) && OpenSession()) return true;
+    ShowMessage("There is no data root yet: start the program once, or use verandis-cli init");
+    return false;
+}
+
 }  // namespace
 
-int WriteDiagramsOf(const std::vector<std::string>& labels, const std::string& folder,
-                    const std::string& system) {
-    const std::string target = AbsolutePath(folder);  // the current folder moves with the project
-    const bool stored = ReadSystemSettings();
-    if (!system.empty()) UseSystemPath(system);
-    if ((!stored && system.empty()) || !OpenSession()) {
-        ShowMessage("There is no data root yet: start the program once, or use verandis-cli init");
-        return kStopped;
-    }
-    for (const std::string& label : labels) {
+int RunWithoutWindow(const WindowlessRun& run) {
+    // The current folder moves with the project.
+    const std::string pictures = run.pictures.empty() ? "" : AbsolutePath(run.pictures);
+    const std::string report = run.report.empty() ? "" : AbsolutePath(run.report);
+    if (!Prepare(run)) return kStopped;
+    for (const std::string& label : run.labels) {
         if (!MarkSlot(label)) return kUsage;
     }
     session.CalcMode = kSteadyState;
     RunDisplay nothing;
     if (Calculate_Click(nothing) != RunOutcome::Done) return kStopped;
-    return SaveDiagramPictures(target, kPictureSize) ? kDone : kStopped;
+    if (!pictures.empty() && !SaveDiagramPictures(pictures, kPictureSize)) return kStopped;
+    return report.empty() || WriteRunReport(report) ? kDone : kStopped;
 }
 
 }  // namespace verandis

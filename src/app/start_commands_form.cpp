@@ -16,6 +16,10 @@
 #include "projects/saved_list_form.h"
 #include "projects/saved_slots_form.h"
 #include "projects/slot_activation.h"
+#include "results/min_temp_form.h"
+#include "results/print_diagram_form.h"
+#include "results/run_report_form.h"
+#include "results/show_cases_form.h"
 #include "widgets/help.h"
 #include "widgets/qt_text.h"
 
@@ -30,6 +34,9 @@ void StartForm::ConnectMenus() {
     menus_->Connect("M_Calculate", [this] { Calculate_Click(); });
     menus_->Connect("M_Clear", [this] { Command10_Click(); });
     menus_->Connect("M_DesignGuide", [this] { OpenDesignGuide(); });
+    menus_->Connect("M_MinTemp", [this] { BMinTemp(this).exec(); });
+    menus_->Connect("M_PrintDiagram", [this] { PrintDiagram(this).exec(); });
+    menus_->Connect("M_ReportPdf", [this] { ReportRun(this); });
     menus_->Connect("M_Print", [this] { SSTab1->PrintActive(); });
     menus_->Connect("M_HelpContents", [] { ShowHelp(kHelpContentsTopic); });
     menus_->Connect("M_Contact", [this] { ContactWindow(this).exec(); });
@@ -85,6 +92,7 @@ void StartForm::ConnectCaseMenus() {
 void StartForm::ConnectSetMenus() {
     menus_->Connect("GS_Save", [this] { SaveCases(this).exec(); });
     menus_->Connect("GS_Load", [this] { LoadCases(this).exec(); });
+    menus_->Connect("GS_Show", [this] { ShowCases(this).exec(); });
     menus_->Connect("GS_Delete", [this] { DeleteCases(this).exec(); });
     menus_->Connect("GS_Copy", [this] { CopyCaseInLib(this).exec(); });
     menus_->Connect("GS_List", [this] { LIstOfSavedCases(this).exec(); });

@@ -195,13 +195,20 @@ void StartForm::TakeSession() {
 void StartForm::StartUp() {
     menus_->Follow(verandis::StartUp());
     menus_->Command("M_Print").setEnabled(panel_->PrintOut->isEnabled());
-    menus_->Command("M_DesignGuide").setEnabled(HasSteadyResults());
+    AllowResultCommands();
     for (const char* command : {"M_EditBuildingData", "M_DesignDemands", "M_BuildingPicture"}) {
         menus_->Command(command).setEnabled(EditedSlotIsOpen());
     }
     setWindowTitle(Shown(session.WindowTitle.empty() ? kProgramTitle : session.WindowTitle));
     header_->Refresh();
     if (editor_) editor_->Refresh();
+}
+
+/// What tells of a steady-state run; a dynamic one leaves nothing for it.
+void StartForm::AllowResultCommands() {
+    for (const char* command : {"M_DesignGuide", "M_MinTemp", "M_PrintDiagram", "M_ReportPdf"}) {
+        menus_->Command(command).setEnabled(HasSteadyResults());
+    }
 }
 
 void StartForm::ShowShapePicture(int shape, int caseNo) {
@@ -287,7 +294,7 @@ void StartForm::Command10_Click() {
     ClearMarks();
     for (FamilyFrame* family : families_) family->ClearMarks();
     steadyResults_ = false;
-    menus_->Command("M_DesignGuide").setEnabled(false);
+    AllowResultCommands();
     panel_->ClearChoice();
     panel_->SteadyItems->show();
     panel_->ShowMarked(0);

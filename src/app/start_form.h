@@ -79,6 +79,7 @@ private:
     void ShowPlans();
     void Want(std::int16_t& what, bool wanted);
     bool HasSteadyResults() const;
+    void AllowResultCommands();
     void GoIdle();
     void ChooseFamily(int shape);
     void ChooseCase(int caseNo);

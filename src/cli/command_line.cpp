@@ -25,6 +25,7 @@ constexpr Option kOptions[] = {
     {.name = "--system", .path = &CommandLine::system},
     {.name = "--csv", .path = &CommandLine::csv},
     {.name = "--json", .path = &CommandLine::json},
+    {.name = "--pdf", .path = &CommandLine::pdf},
     {.name = "--lang", .number = &CommandLine::language, .least = 1, .most = 2},
     {.name = "--kind", .number = &CommandLine::kind, .least = 0, .most = 32767},
     {.name = "--yes", .flag = &CommandLine::yes},

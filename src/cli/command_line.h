@@ -12,6 +12,7 @@ struct CommandLine {
     std::string system;              // data root, absolute; empty when not given
     std::string csv;                 // file, absolute; empty when not given
     std::string json;
+    std::string pdf;
     int language = 0;      // 0 when not given
     int kind = 0;          // written behind a stored value from 1 on
     bool yes = false;      // answer to questions

@@ -60,7 +60,9 @@ const Command kCommands[] = {
     {"load", "FILE", "put a saved case into its slot; asks, so say --yes", 1, 1, Needs::Project,
      LoadCommand},
     {"sets", "", "list the saved cases: file, set, slot", 0, 0, Needs::Project, SetsCommand},
-    {"report", "SLOT...", "the inputs of up to four slots; --differs adds a table of what differs",
+    {"report", "SLOT...",
+     "the inputs of up to four slots; --differs adds a table of what differs,\n"
+     "                                 --pdf FILE calculates and writes a report with diagrams",
      1, kMostReportCases, Needs::Project, ReportCommand},
     NotYet("generate", "SLOT"),
     NotYet("prepare", "SLOT"),

@@ -1,12 +1,13 @@
 #include "cli/month_table.h"
 
-#include <algorithm>
 #include <cmath>
 
 #include "app/program_text.h"
 #include "calc/marked_slots.h"
 #include "calc/properties.h"
 #include "projects/slot_activation.h"
+#include "results/diagrams.h"
+#include "results/month_columns.h"
 #include "text/characters.h"
 #include "text/csv.h"
 #include "text/numbers.h"
@@ -14,31 +15,9 @@
 namespace verandis {
 namespace {
 
-/// Catalogue texts of the table.
-enum : int {
-    kMonthWord = 198,
-    kFirstMonthName = 401,
-    kOutdoorWord = 413,
-    kFreeWord = 414,
-    kHeatWord = 415,
-    kMeanWord = 424,
-    kLargestWord = 425
-};
+constexpr int kMonthWord = 198;
 
-struct Column {
-    const char* head;
-    int word;
-    const char* unit;
-    const char* key;  // in data files
-    float MonthResult::*value;
-    int decimals;
-    std::size_t width;
-};
-constexpr Column kColumns[] = {
-    {"To", kOutdoorWord, "°C", "tempOut", &MonthResult::TempOut, 1, 8},
-    {"Tg", kFreeWord, "°C", "tempGFree", &MonthResult::Tmin, 1, 7},
-    {"Ph", kHeatWord, "W", "heatDemandG", &MonthResult::Ph, 0, 8},
-};
+constexpr std::size_t kWidths[] = {8, 7, 8};  // of the columns, in their order
 constexpr std::size_t kFirstWidth = 10;
 constexpr std::size_t kCaseWidth = 23;
 
@@ -52,32 +31,14 @@ std::string LeftAligned(const std::string& text, std::size_t width) {
     return text + (length < width ? std::string(width - length, ' ') : "");
 }
 
-std::string MonthName(std::size_t month) {
-    return Text(kFirstMonthName + static_cast<int>(month) - 1);
-}
-
-double MeanOf(const RunResults::Year& year, float MonthResult::*value) {
-    double sum = 0;
-    for (std::size_t month = 1; month <= kMonths; ++month) sum += double(year[month].*value);
-    return sum / kMonths;
-}
-
-double LargestOf(const RunResults::Year& year, float MonthResult::*value) {
-    float largest = year[1].*value;
-    for (std::size_t month = 1; month <= kMonths; ++month) {
-        largest = std::max(largest, year[month].*value);
-    }
-    return double(largest);
-}
-
 template <class ValueOf>
 std::string Row(const std::string& head, const std::vector<CalculatedCase>& cases,
                 const ValueOf& valueOf) {
     std::string line = LeftAligned(head, kFirstWidth);
     for (const CalculatedCase& each : cases) {
-        for (const Column& column : kColumns) {
-            line +=
-                Right(FixedText(valueOf(each.months, column.value), column.decimals), column.width);
+        for (std::size_t at = 0; at < kMonthColumns.size(); ++at) {
+            const MonthColumn& column = kMonthColumns[at];
+            line += Right(MonthCell(valueOf(each.months, column.value), column), kWidths[at]);
         }
     }
     return line + "\n";
@@ -88,7 +49,9 @@ std::string Heads(const std::vector<CalculatedCase>& cases) {
     std::string columns = LeftAligned(Text(kMonthWord), kFirstWidth);
     for (const CalculatedCase& each : cases) {
         names += Right(SlotLabel(each.slot) + " " + each.climate, kCaseWidth);
-        for (const Column& column : kColumns) columns += Right(column.head, column.width);
+        for (std::size_t at = 0; at < kMonthColumns.size(); ++at) {
+            columns += Right(kMonthColumns[at].head, kWidths[at]);
+        }
     }
     return names + "\n" + columns + "\n";
 }
@@ -109,7 +72,7 @@ std::string JsonNumber(float value) {
 
 std::string JsonMonth(std::size_t month, const MonthResult& result) {
     std::string text = "{\"month\": " + std::to_string(month);
-    for (const Column& column : kColumns) {
+    for (const MonthColumn& column : kMonthColumns) {
         text += std::string(", \"") + column.key + "\": " + JsonNumber(result.*column.value);
     }
     return text + "}";
@@ -145,7 +108,7 @@ std::vector<CalculatedCase> CalculatedCases() {
 std::string MonthTable(const std::vector<CalculatedCase>& cases) {
     std::string table = Heads(cases);
     for (std::size_t month = 1; month <= kMonths; ++month) {
-        table += Row(MonthName(month), cases,
+        table += Row(MonthName(static_cast<int>(month)), cases,
                      [&](const RunResults::Year& year, float MonthResult::*value) {
                          return double(year[month].*value);
                      });
@@ -153,7 +116,7 @@ std::string MonthTable(const std::vector<CalculatedCase>& cases) {
     table += Row(Text(kMeanWord), cases, MeanOf);
     table += Row(Text(kLargestWord), cases, LargestOf);
     table += "\n";
-    for (const Column& column : kColumns) {
+    for (const MonthColumn& column : kMonthColumns) {
         table += std::string(column.head) + "  " + Text(column.word) + ", " + column.unit + "\n";
     }
     return table;
@@ -161,13 +124,13 @@ std::string MonthTable(const std::vector<CalculatedCase>& cases) {
 
 std::string MonthCsv(const std::vector<CalculatedCase>& cases) {
     std::string text = "slot,climate,month";
-    for (const Column& column : kColumns) text += std::string(",") + column.key;
+    for (const MonthColumn& column : kMonthColumns) text += std::string(",") + column.key;
     text += "\n";
     for (const CalculatedCase& each : cases) {
         for (std::size_t month = 1; month <= kMonths; ++month) {
             text +=
                 SlotLabel(each.slot) + "," + CsvText(each.climate) + "," + std::to_string(month);
-            for (const Column& column : kColumns) {
+            for (const MonthColumn& column : kMonthColumns) {
                 text += "," + TrimmedNumberText(each.months[month].*column.value);
             }
             text += "\n";

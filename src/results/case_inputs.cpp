@@ -31,7 +31,7 @@ constexpr const char* kPlain = ": ";
 constexpr InputRow kSite[] = {
     {"CASE", "NOTE", 50, 0, kPlain, ""},
     {"CLIMATE", "FILE", 242, 0, kPlain, ""},
-    {"ROTATION", "ANGLE", 917, 0, "(\u00BA): ", "\u00BA"},
+    {"ROTATION", "ANGLE", 917, 0, "(\u00BA):", "\u00BA"},
 };
 
 constexpr InputRow kDimensions[] = {
@@ -79,7 +79,7 @@ struct ElementRow {
 };
 
 constexpr ElementRow kElementRows[] = {
-    {"ORIENTATION", 931, "(\u00BA): ", "\u00BA", true, true, false, true},
+    {"ORIENTATION", 931, "(\u00BA):", "\u00BA", true, true, false, true},
     {"WALLTYPE", 173, kPlain, "", true, true, true, false},
     {"PCNTW", 933, " (%):", "%", false, true, false, false},
     {"GLAZEDID", 160, kPlain, "", false, true, false, true},

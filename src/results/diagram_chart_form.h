@@ -9,6 +9,7 @@
 
 #include "results/diagram_look_form.h"
 #include "results/diagrams.h"
+#include "widgets/output.h"
 
 QT_BEGIN_NAMESPACE
 class QLineSeries;
@@ -79,6 +80,7 @@ private:
     };
 
     void AddActions();
+    PrintJob Page();
     void AddSeriesPool();
     void UseHorizontalAxis(bool months);
     void FillSeries();

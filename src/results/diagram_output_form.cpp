@@ -4,27 +4,20 @@
 #include <QBuffer>
 #include <QChart>
 #include <QClipboard>
-#include <QFileDialog>
 #include <QGraphicsLayout>
 #include <QGraphicsScene>
 #include <QGuiApplication>
-#include <QPdfWriter>
-#include <QPrintDialog>
-#include <QPrinter>
-#include <QStandardPaths>
 
-#include "platform/files.h"
-#include "platform/prompts.h"
 #include "results/diagram_chart_form.h"
 #include "results/diagram_texts.h"
 #include "widgets/controls.h"
+#include "widgets/output.h"
 #include "widgets/qt_text.h"
 
 namespace verandis {
 namespace {
 
 enum : int {
-    kCannotWriteText = 608,
     kEnlargeText = 609,
     kCopyPictureText = 610,
     kSavePictureText = 611,
@@ -39,13 +32,6 @@ QPalette PaperPalette() {
     palette.setColor(QPalette::Base, Qt::white);
     palette.setColor(QPalette::Text, Qt::black);
     return palette;
-}
-
-bool Written(const std::string& path, const QByteArray& bytes) {
-    const std::string_view view(bytes.constData(), static_cast<std::size_t>(bytes.size()));
-    if (!bytes.isEmpty() && WriteBytes(path, view)) return true;
-    ShowMessage(Typed(Label(kCannotWriteText)) + " " + path, kProgramTitle, Icon::Exclamation);
-    return false;
 }
 
 }  // namespace
@@ -117,48 +103,35 @@ bool DiagramChart::SavePicture(const std::string& path) {
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     Picture().save(&buffer, "PNG");
-    return Written(path, bytes);
+    return SaveOutput(path, bytes);
 }
 
 bool DiagramChart::SaveCsv(const std::string& path) {
-    return Written(path, QByteArray::fromStdString(DiagramCsv(ShownDiagram())));
+    return SaveOutput(path, QByteArray::fromStdString(DiagramCsv(ShownDiagram())));
+}
+
+/// The chart fills a landscape page.
+PrintJob DiagramChart::Page() {
+    return {Shown(diagram_.title), QPageLayout::Landscape, [this](QPagedPaintDevice& device) {
+                QPainter painter;
+                if (!painter.begin(&device)) return;
+                DrawOn(painter, QRectF(0, 0, device.width(), device.height()));
+            }};
 }
 
 bool DiagramChart::SavePdf(const std::string& path) {
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    QPdfWriter writer(&buffer);
-    writer.setTitle(Shown(diagram_.title));
-    writer.setPageSize(QPageSize(QPageSize::A4));
-    writer.setPageOrientation(QPageLayout::Landscape);
-    writer.setPageMargins(QMarginsF(15, 15, 15, 15), QPageLayout::Millimeter);
-    QPainter painter(&writer);
-    DrawOn(painter, QRectF(0, 0, writer.width(), writer.height()));
-    painter.end();
-    return Written(path, bytes);
+    return SaveOutput(path, PdfOf(Page()));
 }
 
 void DiagramChart::Print() {
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setPageOrientation(QPageLayout::Landscape);
-    printer.setDocName(Shown(diagram_.title));
-    QPrintDialog dialog(&printer, this);
-    if (dialog.exec() != QDialog::Accepted) return;
-    QPainter painter;
-    if (!painter.begin(&printer)) return;
-    DrawOn(painter, QRectF(0, 0, printer.width(), printer.height()));
+    CurrentOutputs().Print(this, Page());
 }
 
 void DiagramChart::AskAndSave(int title, const char* ending,
                               bool (DiagramChart::*save)(const std::string&)) {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    const QString name = QString(DiagramFileName(diagram_.kind)) + ending;
-    QString path = QFileDialog::getSaveFileName(this, Label(title), folder + "/" + name,
-                                                QString("*%1").arg(ending));
-    if (path.isEmpty()) return;
-    if (!path.endsWith(ending, Qt::CaseInsensitive)) path += ending;
-    (this->*save)(Typed(path));
+    const QString path =
+        CurrentOutputs().FileToSave(this, Label(title), DiagramFileName(diagram_.kind), ending);
+    if (!path.isEmpty()) (this->*save)(Typed(path));
 }
 
 }  // namespace verandis

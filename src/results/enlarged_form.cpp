@@ -72,6 +72,10 @@ DiagramKind EnlargedForm::kind() const {
     return chart_->diagram().kind;
 }
 
+void EnlargedForm::Print() {
+    chart_->Print();
+}
+
 Enlarged EnlargedFormOf(DiagramKind kind) {
     const auto found = std::find_if(kForms.begin(), kForms.end(), [kind](const Row& row) {
         return row.first == kind || row.second == kind;

@@ -27,6 +27,9 @@ public:
 
     DiagramKind kind() const;
 
+    /// Prints the chart by the print dialog.
+    void Print();
+
 private:
     DiagramChart* chart_;
 };

@@ -1,8 +1,6 @@
 #include "results/guide_form.h"
 
 #include <QEvent>
-#include <QPrintDialog>
-#include <QPrinter>
 #include <QVBoxLayout>
 
 #include "app/session.h"
@@ -10,6 +8,7 @@
 #include "results/guide_print_form.h"
 #include "results/msg_form.h"
 #include "widgets/controls.h"
+#include "widgets/output.h"
 #include "widgets/qt_text.h"
 #include "widgets/theme.h"
 
@@ -202,10 +201,8 @@ void Ststcalcchart::Combo1_Click(int row) {
 }
 
 void Ststcalcchart::Command2_Click() {
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setDocName(kGuideCaption);
-    QPrintDialog dialog(&printer, this);
-    if (dialog.exec() == QDialog::Accepted) PrintGuide(printer, sheet_);
+    CurrentOutputs().Print(this, {kGuideCaption, QPageLayout::Portrait,
+                                  [this](QPagedPaintDevice& page) { PrintGuide(page, sheet_); }});
 }
 
 void Ststcalcchart::Show(const GuideState& state) {

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <sstream>
 
+#include "platform/run_and_wait.h"
 #include "support/session_test.h"
 #include "text/numbers.h"
 
@@ -189,6 +190,14 @@ TEST_F(Cli, AReportEndsWithWhatDiffersWhenAsked) {
     EXPECT_NE(out.find("Input\tU1\tU2\n"), std::string::npos);
     EXPECT_EQ(Bytes(root + "/PROJECT/verandis/Slask.Res").substr(0, 14), "Utskrift gjord");
     EXPECT_EQ(Run({"report", "U1", "U2", "U3", "U4", "O1"}), 1);
+}
+
+TEST_F(Cli, APdfReportIsDrawnByTheProgramWithTheWindows) {
+    if (CompanionProgram("verandis") == "verandis") GTEST_SKIP() << "built without windows";
+    ASSERT_EQ(Run({"start"}), 0);
+    ASSERT_EQ(Run({"report", "--pdf", Path("out.pdf"), "U1", "o3"}), 0) << err;
+    EXPECT_TRUE(Bytes(Path("out.pdf")).starts_with("%PDF"));
+    EXPECT_EQ(Run({"report", "--pdf", Path("nowhere/out.pdf"), "U1"}), 2);
 }
 
 }  // namespace

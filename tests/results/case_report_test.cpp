@@ -35,7 +35,8 @@ protected:
 
 TEST_F(Report, TellsInputsWithWordsUnitsAndTheSessionsDecimalSign) {
     MakeSlot({1, 1},
-             "DIMENSION_WIDTHB\t 20.5\nXU102-E_PCNTW\t 30\nHVACG_HEATING\t-999999\n"
+             "DIMENSION_WIDTHB\t 20.5\nXU001-W_ORIENTATION\t 270\nXU102-E_PCNTW\t "
+             "30\nHVACG_HEATING\t-999999\n"
              "HVAC_FVI\t 2\nCASE_NOTE\tAt the sea\n");
     session.Decimals = DecimalMode::Comma;
     const auto lines = CaseReport("U1", {WorkingCase({1, 1})});
@@ -44,9 +45,10 @@ TEST_F(Report, TellsInputsWithWordsUnitsAndTheSessionsDecimalSign) {
     EXPECT_EQ(lines[2], "U1");
     EXPECT_EQ(lines[3], "Shape:\u00A0U-shape -- index Case 1");
     EXPECT_EQ(lines[4], "------------------------------------ ");
-    for (const char* line : {"Width of the building (m): 20,5", " X U102-E  -  Window share (%):30",
-                             "Heating set point, glazed space (\u00BAC): -", "Note: At the sea",
-                             "Forced ventilation: Flow from\u00A0Building -> Glazed space"}) {
+    for (const char* line :
+         {"Width of the building (m): 20,5", " X U102-E  -  Window share (%):30",
+          "  XU001-W  -  Direction(\u00BA):270", "Heating set point, glazed space (\u00BAC): -",
+          "Note: At the sea", "Forced ventilation: Flow from\u00A0Building -> Glazed space"}) {
         EXPECT_TRUE(Holds(lines, line)) << line;
     }
 }
