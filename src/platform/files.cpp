@@ -124,6 +124,12 @@ mode_t ModeOf(const std::string& realPath, bool followLinks) {
     return result == 0 ? info.st_mode : mode_t(0);
 }
 
+/// The same for a path as asked for: in the remembered folder first.
+mode_t RememberedMode(const std::string& path, bool follow) {
+    const mode_t mode = ModeOf(RememberedSpelling(path), follow);
+    return mode != 0 ? mode : ModeOf(FindSpelling(path), follow);
+}
+
 }  // namespace
 
 std::optional<std::string_view> ReadView(const std::string& path) {
@@ -181,7 +187,7 @@ bool FileExists(const std::string& path) {
 }
 
 bool FolderExists(const std::string& path) {
-    return S_ISDIR(ModeOf(FindSpelling(path), true));
+    return S_ISDIR(RememberedMode(path, true));
 }
 
 std::vector<std::string> ListFolder(const std::string& folder) {
@@ -271,7 +277,7 @@ std::string ProgramPath() {
 }
 
 bool IsLink(const std::string& path) {
-    return S_ISLNK(ModeOf(FindSpelling(path), false));
+    return S_ISLNK(RememberedMode(path, false));
 }
 
 std::string TrueSpelling(const std::string& path) {

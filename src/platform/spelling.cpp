@@ -2,6 +2,7 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <functional>
 #include <string>
@@ -29,6 +30,7 @@ struct Spellings {
     std::string root;
     SpellingMap folders;  // real folder by the folder as asked for
     SpellingMap files;    // real path of those files alone whose name has another spelling
+    SpellingMap parts;    // real path of a part of the way, by its real folder and the asked name
 };
 
 Spellings& State() {
@@ -61,6 +63,21 @@ std::string NameInFolder(const std::string& folder, const std::string& name) {
     return best.empty() ? name : best;
 }
 
+/// Path of the entry of a real folder that a name means. An exact name counts before what is
+/// remembered, so that it is seen when another program makes it.
+std::string PathInFolder(const std::string& folder, const std::string& name) {
+    const std::string exact =
+        folder.empty() || folder.ends_with('/') ? folder + name : folder + "/" + name;
+    if (Exists(exact)) return exact;
+    auto& parts = State().parts;
+    const auto known = parts.find(exact);
+    if (known != parts.end() && Exists(known->second)) return known->second;
+    const std::string found =
+        exact.substr(0, exact.size() - name.size()) + NameInFolder(folder, name);
+    if (found != exact) Remember(parts, exact, found);
+    return found;
+}
+
 std::string WithRootSpelling(std::string path) {
     const std::string& root = State().root;
     const bool below = !root.empty() && path.size() >= root.size() &&
@@ -81,17 +98,14 @@ void SetRootSpelling(std::string_view root) {
 std::string FindSpelling(std::string_view path) {
     const std::string wanted = WithRootSpelling(WithMachineSeparators(WithoutDrive(path)));
     if (Exists(wanted)) return wanted;
-    std::string found = wanted.starts_with('/') ? "/" : "";
-    std::size_t at = 0;
+    const std::string& root = State().root;
+    const bool below = !root.empty() && wanted.starts_with(root + "/") && Exists(root);
+    std::string found = below ? root : wanted.starts_with('/') ? "/" : "";
+    std::size_t at = below ? root.size() + 1 : 0;
     while (at < wanted.size()) {
-        std::size_t end = wanted.find('/', at);
-        if (end == std::string::npos) end = wanted.size();
-        const std::string name = wanted.substr(at, end - at);
+        const std::size_t end = std::min(wanted.find('/', at), wanted.size());
+        if (end > at) found = PathInFolder(found, wanted.substr(at, end - at));
         at = end + 1;
-        if (name.empty()) continue;
-        const std::string folder = found;
-        if (!found.empty() && !found.ends_with('/')) found += '/';
-        found += Exists(found + name) ? name : NameInFolder(folder, name);
     }
     return found;
 }
@@ -137,6 +151,7 @@ void RecheckSpelling(const std::string& folder) {
 void ForgetSpellings() {
     State().folders.clear();
     State().files.clear();
+    State().parts.clear();
 }
 
 }  // namespace verandis
