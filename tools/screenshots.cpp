@@ -11,6 +11,9 @@
 #include <QTimer>
 #include <iostream>
 
+#include "app/about_form.h"
+#include "app/building_picture_form.h"
+#include "app/help_form.h"
 #include "app/session.h"
 #include "app/start_form.h"
 #include "app/sys_init_form.h"
@@ -23,6 +26,10 @@
 #include "libraries/type_library_form.h"
 #include "platform/prompts.h"
 #include "projects/case_forms_form.h"
+#include "projects/saved_list_form.h"
+#include "projects/saved_slots_form.h"
+#include "results/min_temp_form.h"
+#include "results/show_cases_form.h"
 
 namespace {
 
@@ -125,6 +132,13 @@ void TakeDialogs(StartForm& form, const Camera& camera) {
     TakeDialog<verandis::HVACformX>(form, camera, "demands");
     TakeDialog<verandis::ReferenceWindowsLib>(form, camera, "windows");
     TakeDialog<verandis::OpaqueWallsLib>(form, camera, "walls");
+    TakeDialog<verandis::SaveCases>(form, camera, "save-cases");
+    TakeDialog<verandis::LoadCases>(form, camera, "load-cases");
+    TakeDialog<verandis::ShowCases>(form, camera, "show-cases");
+    TakeDialog<verandis::BMinTemp>(form, camera, "minimum-temperatures");
+    TakeDialog<verandis::HelpWindow>(form, camera, "help");
+    TakeDialog<verandis::AboutBox>(form, camera, "about");
+    TakeDialog<verandis::BuildingPicture>(form, camera, "picture");
     TakeDialog<forms::NewProject>(form, camera, "new-project");
     TakeDialog<forms::OpenProject>(form, camera, "open-project");
     TakeDialog<forms::RenProject>(form, camera, "rename-project");

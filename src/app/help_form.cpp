@@ -358,7 +358,81 @@ void HelpWindow::keyPressEvent(QKeyEvent* event) {
     }
 }
 
+namespace {
+
+struct DialogTopic {
+    const char* dialog;  // objectName
+    int topic;
+};
+
+/// Pages of the dialogs, for F1; the buttons of those that have one open the same.
+constexpr DialogTopic kDialogTopics[] = {
+    {"GeoUShape", 12133},
+    {"GeoOShape", 12134},
+    {"GeoVShape", 12135},
+    {"GeoIShape", 12160},
+    {"GlazingUShape", 12164},
+    {"GlazingOShape", 12165},
+    {"GlazingVShape", 12166},
+    {"GlazingIShape", 12167},
+    {"OpaqueConstrUShape", 12169},
+    {"OPaqueConstrOShape", 12170},
+    {"OpaqueConstrVShape", 12171},
+    {"OpaqueConstrIShape", 12172},
+    {"HVACForm", 12168},
+    {"HVACformX", 13050},
+    {"ShadeSite", 12136},
+    {"EditBuildingData", 12137},
+    {"ReferenceWindowsLib", 12112},
+    {"OpaqueWallsLib", 12113},
+    {"Ststcalcchart", 13012},
+    {"MsgForm", 13012},
+    {"SysInit", 13013},
+    {"BuildingPicture", 13015},
+    {"NewProject", 13020},
+    {"OpenProject", 13020},
+    {"CopyProject", 13020},
+    {"RenProject", 13020},
+    {"DelProject", 13020},
+    {"NewCase", 13021},
+    {"OpenCase", 13021},
+    {"CopyCase", 13021},
+    {"RenCase", 13021},
+    {"SaveCases", 13030},
+    {"LIstOfSavedCases", 13030},
+    {"LoadCases", 13031},
+    {"TargetFile", 13031},
+    {"DeleteCases", 13032},
+    {"CopyCaseInLib", 13033},
+    {"BasRedef", 13034},
+    {"ShowCases", 13040},
+    {"BMinTemp", 13041},
+    {"PrintDiagram", 13042},
+};
+
+/// F1 in a dialog opens its page.
+class HelpKey : public QObject {
+public:
+    using QObject::QObject;
+
+protected:
+    bool eventFilter(QObject* receiver, QEvent* event) override {
+        if (event->type() != QEvent::KeyPress || !receiver->isWidgetType()) return false;
+        if (static_cast<QKeyEvent*>(event)->key() != Qt::Key_F1) return false;
+        const QString name = static_cast<QWidget*>(receiver)->window()->objectName();
+        for (const DialogTopic& each : kDialogTopics) {
+            if (name != each.dialog) continue;
+            ShowHelp(each.topic);
+            return true;
+        }
+        return false;
+    }
+};
+
+}  // namespace
+
 void UseHelpWindow(QWidget* owner) {
+    qApp->installEventFilter(new HelpKey(owner));
     UseHelpViewer([owner, window = QPointer<HelpWindow>()](int topic) mutable {
         QWidget* modal = QApplication::activeModalWidget();
         if (!window) window = new HelpWindow(owner);

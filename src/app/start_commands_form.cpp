@@ -46,7 +46,9 @@ void StartForm::ConnectMenus() {
 
 template <class Dialog>
 void StartForm::OpenDialog() {
+    const std::string before = session.ProjectFolder;
     Dialog(this).exec();
+    if (session.ProjectFolder != before) steadyResults_ = false;  // results of other slots
     FollowSession();
 }
 
@@ -118,7 +120,10 @@ void StartForm::OpenDemands() {
 
 /// A dialog has stored something in the open case.
 void StartForm::TakeCaseChange(bool resultsOutdated) {
-    if (resultsOutdated) AllowPrinting(false);
+    if (resultsOutdated) {
+        AllowPrinting(false);
+        menus_->Command("M_ReportPdf").setEnabled(false);  // it would tell inputs of today
+    }
     ShowPlans();  // a saved case may have been loaded into any slot
     header_->Refresh();
     if (editor_) editor_->Refresh();

@@ -11,7 +11,7 @@ namespace {
 
 constexpr const char* kWindowProgram = "verandis";
 
-/// The window program draws the report; without a display it does so without one.
+/// The window program draws the report, without a display: one that is named may not answer.
 ProgramCall PdfCall(const CommandLine& line, const std::vector<std::string>& labels) {
     ProgramCall call;
     call.program = CompanionProgram(kWindowProgram);
@@ -20,10 +20,7 @@ ProgramCall PdfCall(const CommandLine& line, const std::vector<std::string>& lab
                       "--language", std::to_string(session.Language),
                       "--"};
     call.arguments.insert(call.arguments.end(), labels.begin(), labels.end());
-    const bool chosen = HasEnvironment("QT_QPA_PLATFORM");
-    if (!chosen && !HasEnvironment("DISPLAY") && !HasEnvironment("WAYLAND_DISPLAY")) {
-        call.environment = {{"QT_QPA_PLATFORM", "offscreen"}};
-    }
+    call.environment = {{"QT_QPA_PLATFORM", "offscreen"}};
     return call;
 }
 

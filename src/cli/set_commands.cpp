@@ -1,5 +1,7 @@
 #include "cli/set_commands.h"
 
+#include <algorithm>
+
 #include "app/program_text.h"
 #include "app/session.h"
 #include "cli/commands.h"
@@ -27,8 +29,13 @@ int SaveCommand(const CommandCall& call) {
         const int opened = OpenLabelledSlot(call, call.arguments[at], slots.emplace_back());
         if (opened != kExitDone) return opened;
     }
-    if (!SaveSlots(name, slots)) return kExitStopped;
-    for (const Slot& slot : slots) {
+    // In the order of the slots, each once.
+    std::vector<Slot> ordered;
+    for (const Slot& slot : AllSlots()) {
+        if (std::find(slots.begin(), slots.end(), slot) != slots.end()) ordered.push_back(slot);
+    }
+    if (!SaveSlots(name, ordered)) return kExitStopped;
+    for (const Slot& slot : ordered) {
         call.out << Text(kSavedWord) << "\t" << name << "!" << SlotLabel(slot) << ".CAS\n";
     }
     return kExitDone;

@@ -7,6 +7,7 @@
 #include "case/property_file.h"
 #include "case/slot_files.h"
 #include "platform/clock.h"
+#include "platform/encoding.h"
 #include "platform/files.h"
 #include "platform/paths.h"
 #include "platform/prompts.h"
@@ -158,7 +159,9 @@ bool ProjectHasSlot(const Slot& slot) {
 }
 
 int RefusalOfSetName(const std::string& name) {
-    if (name.find(' ') != std::string::npos || NameClimbs(name)) return kBadNameText;
+    if (name.find_first_of(" *?") != std::string::npos || NameClimbs(name) ||
+        !SurvivesCodePage(name))
+        return kBadNameText;
     return Length(name) > kLongestSetName ? kLongNameText : 0;
 }
 

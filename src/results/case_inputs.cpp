@@ -4,6 +4,7 @@
 #include "app/session.h"
 #include "case/property_file.h"
 #include "platform/files.h"
+#include "platform/input_check.h"
 #include "platform/paths.h"
 #include "projects/saved_cases.h"
 #include "text/characters.h"
@@ -28,8 +29,11 @@ struct InputRow {
 
 constexpr const char* kPlain = ": ";
 
-constexpr InputRow kSite[] = {
+constexpr InputRow kNote[] = {
     {"CASE", "NOTE", 50, 0, kPlain, ""},
+};
+
+constexpr InputRow kSite[] = {
     {"CLIMATE", "FILE", 242, 0, kPlain, ""},
     {"ROTATION", "ANGLE", 917, 0, "(\u00BA):", "\u00BA"},
 };
@@ -79,11 +83,11 @@ struct ElementRow {
 };
 
 constexpr ElementRow kElementRows[] = {
-    {"ORIENTATION", 931, "(\u00BA):", "\u00BA", true, true, false, true},
     {"WALLTYPE", 173, kPlain, "", true, true, true, false},
     {"PCNTW", 933, " (%):", "%", false, true, false, false},
     {"GLAZEDID", 160, kPlain, "", false, true, false, true},
     {"ABSX1", 934, " (%): ", "%", false, false, true, false},
+    {"ORIENTATION", 931, "(\u00BA):", "\u00BA", true, true, false, true},
 };
 
 bool Has(const ElementRow& row, Series series, bool floor) {
@@ -98,6 +102,27 @@ std::string ElementLabel(std::string_view id) {
     return "  " + std::string(id) + "  -  ";
 }
 
+/// Which surface it is: "Glazing, south (XU201-S)".
+std::string ElementWords(std::string_view id, Series series) {
+    enum : int { OuterWall = 1001, Roof, Floor, InnerWall, SpaceFloor, Glazing, North, East };
+    constexpr int kSouth = 1009;
+    constexpr int kWest = 1010;
+    const bool partition = series == Series::Partition;
+    int kind = partition ? InnerWall : series == Series::Glazing ? Glazing : OuterWall;
+    int facing = 0;
+    switch (id.back()) {
+        case 'F': kind = partition ? SpaceFloor : Floor; break;
+        case 'R': kind = Roof; break;
+        case 'N': facing = North; break;
+        case 'E': facing = East; break;
+        case 'S': facing = kSouth; break;
+        case 'W': facing = kWest; break;
+        default: break;
+    }
+    const std::string side = facing ? ", " + Text(facing) : "";
+    return Text(kind) + side + " (" + std::string(id) + ")";
+}
+
 /// And another is looked up under a section that no file holds, so that it reads as not set.
 std::string ReportSection(std::string_view id) {
     return id == "XO008-R" ? "XUO008-R" : "";
@@ -108,7 +133,7 @@ void Append(std::vector<CaseInput>& inputs, const InputRow (&rows)[count]) {
     for (const InputRow& row : rows) {
         std::string label = Text(row.text);
         if (row.zone) label += ", " + LowerCase(Text(row.zone));
-        inputs.push_back({row.section, row.key, "", label, row.suffix, row.unit, false});
+        inputs.push_back({row.section, row.key, "", label, label, row.suffix, row.unit, false});
     }
 }
 
@@ -126,8 +151,9 @@ void AppendElements(std::vector<CaseInput>& inputs, int shape, Series series) {
     for (const std::string_view id : ElementsOf(shape, series)) {
         for (const ElementRow& row : kElementRows) {
             if (!Has(row, series, id.ends_with('F'))) continue;
-            inputs.push_back({std::string(id), row.key, ReportSection(id),
-                              ElementLabel(id) + Text(row.text), row.suffix, row.unit, true});
+            inputs.push_back(
+                {std::string(id), row.key, ReportSection(id), ElementLabel(id) + Text(row.text),
+                 ElementWords(id, series) + ": " + Text(row.text), row.suffix, row.unit, true});
         }
     }
 }
@@ -135,10 +161,13 @@ void AppendElements(std::vector<CaseInput>& inputs, int shape, Series series) {
 std::string ForcedVentilation(double mode) {
     constexpr int kNone = 363;
     constexpr int kFlowFrom = 114;
+    constexpr int kMechanical = 7;
+    constexpr int kSwedish = 1;
     const std::string glazed = Text(kGlazedSpace);
     const std::string building = Text(kBuilding);
-    if (mode == 1) return Text(kFlowFrom) + glazed + " -> " + building;
-    if (mode == 2) return Text(kFlowFrom) + building + " -> " + glazed;
+    const std::string front = session.Language == kSwedish ? Left(Text(kMechanical), 3) : "";
+    if (mode == 1) return front + Text(kFlowFrom) + glazed + " -> " + building;
+    if (mode == 2) return front + Text(kFlowFrom) + building + " -> " + glazed;
     return Text(kNone);
 }
 
@@ -146,13 +175,14 @@ std::string ForcedVentilation(double mode) {
 
 std::vector<CaseInput> InputsOf(int shape) {
     std::vector<CaseInput> inputs;
-    Append(inputs, kSite);
+    Append(inputs, kNote);
     AppendDimensions(inputs, shape);
+    Append(inputs, kSite);
+    Append(inputs, kConditions);
     for (const Series series : {Series::Envelope, Series::Partition, Series::Glazing}) {
         AppendElements(inputs, shape, series);
     }
     Append(inputs, kSurfaces);
-    Append(inputs, kConditions);
     return inputs;
 }
 
@@ -173,7 +203,10 @@ std::string ShownValue(const ReportCase& each, const CaseInput& input) {
     const std::string value(TrimBlanks(PropertyIn(each.lines, input.section, input.key)));
     if (value == kNotSet || value.empty()) return kUnsetSign;
     if (input.key == "FVI") return ForcedVentilation(ToNumber(value));
-    return input.unit.empty() ? value : NumberOnScreen(ToNumber(value));
+    if (input.key == "WALLTYPE" || input.key == "GLAZEDID") return SplitKind(value).name;
+    // What is no number is told as it stands, not as the 0 that it reads as.
+    const bool number = NumericReplyComplaint(value, 0, 0).empty();
+    return number && !input.unit.empty() ? NumberOnScreen(ToNumber(value)) : value;
 }
 
 }  // namespace verandis

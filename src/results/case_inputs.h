@@ -16,6 +16,7 @@ struct CaseInput {
     std::string key;
     std::string reportSection;  // where a report looks instead, when not empty
     std::string label;     // in the session's language; an element's row begins with its identifier
+    std::string words;     // the label in a comparison: which surface it is, in words
     std::string suffix;    // between label and value in a report, such as " (m): "
     std::string unit;      // "m"; empty for words
     bool element = false;  // of one building element

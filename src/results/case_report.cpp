@@ -17,6 +17,7 @@ enum : int {
     kCaseWord = 196,
     kDifferTitle = 935,
     kNothingDiffers = 936,
+    kChooseTwo = 633,
     kInputWord = 937,
     kNotWritten = 901
 };
@@ -80,7 +81,7 @@ std::vector<std::string> CaseReport(const std::string& chosen,
 std::vector<CaseDifference> WhatDiffers(const std::vector<ReportCase>& cases) {
     std::vector<CaseDifference> differences;
     for (const CaseInput& input : AllInputs(cases)) {
-        CaseDifference row{input.label, input.unit, {}};
+        CaseDifference row{input.words, input.unit, {}};
         std::vector<std::string> compared;
         for (const ReportCase& each : cases) {
             const bool has = ShapeHas(each.slot.shape, input);
@@ -97,13 +98,15 @@ std::vector<CaseDifference> WhatDiffers(const std::vector<ReportCase>& cases) {
 
 std::vector<std::string> DifferenceLines(const std::vector<ReportCase>& cases,
                                          const std::string& separator) {
+    if (cases.size() < 2) return {Text(kChooseTwo)};
     const auto differences = WhatDiffers(cases);
     if (differences.empty()) return {Text(kNothingDiffers)};
     std::string heads = Text(kInputWord);
     for (const ReportCase& each : cases) heads += separator + each.name;
     std::vector<std::string> lines = {Text(kDifferTitle), heads};
     for (const CaseDifference& row : differences) {
-        std::string line = row.unit.empty() ? row.label : row.label + " (" + row.unit + ")";
+        std::string line = row.label;
+        if (!row.unit.empty()) line += " (" + row.unit + ")";
         for (const std::string& value : row.values) line += separator + value;
         lines.push_back(line);
     }

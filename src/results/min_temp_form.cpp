@@ -25,7 +25,7 @@ enum : int {
     kPrintTip = 679
 };
 
-constexpr int kTableColumns = 116;  // average characters
+constexpr int kTableColumns = 130;  // average characters
 constexpr int kTableLines = 18;
 
 }  // namespace

@@ -65,6 +65,10 @@ std::string NamesOf(const std::vector<ReportCase>& cases) {
 
 std::vector<std::string> MakeReport(const std::vector<ReportCase>& cases) {
     auto lines = CaseReport(NamesOf(cases), cases);
+    if (cases.size() > 1) {
+        lines.emplace_back();
+        for (std::string& line : DifferenceLines(cases, "\t")) lines.push_back(std::move(line));
+    }
     WriteReport(lines);
     return lines;
 }

@@ -143,6 +143,8 @@ ShowCases::ShowCases(QWidget* parent)
            fontMetrics().lineSpacing() * kWindowLines);
     slots_->setFocus();
     AssignMnemonics(*this);
+    // What is marked in the main window is what the designer is about to compare.
+    if (!MarkedSlotsOfList().empty()) TAbles_Click();
 }
 
 void ShowCases::FillLists() {

@@ -72,6 +72,17 @@ TEST_F(HelpViewer, OpensTopicsInOneWindowAndFollowsThemInTheContents) {
     EXPECT_EQ(Title(window), "Verandis");
 }
 
+TEST_F(HelpViewer, F1InADialogOpensItsPage) {
+    QDialog dialog(&owner);
+    dialog.setObjectName("RenCase");
+    QLineEdit field(&dialog);
+    dialog.show();
+    QTest::keyClick(&field, Qt::Key_F1);
+    auto* window = owner.findChild<HelpWindow*>();
+    ASSERT_TRUE(window && window->isVisible());
+    EXPECT_EQ(Title(*window), "Cases of a project");
+}
+
 TEST_F(HelpViewer, ShowsThePicturesOfAPageAndLetsItsTextGrow) {
     HelpWindow& window = OpenAt(12133);
     auto& page = Control<QTextBrowser>(window, "Page");

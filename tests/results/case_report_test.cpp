@@ -69,7 +69,7 @@ TEST_F(Report, OfDifferencesComparesNumbersAsNumbersAndElementsWithinAShape) {
     EXPECT_EQ(DifferenceLines(cases, "|"),
               (std::vector<std::string>{"Inputs that differ", "Input|U1|U2|V1",
                                         "Tilt of the roof (\u00BA)|30|45|30",
-                                        "  XU201-S  -  Window type|Clear1|Clear2|-"}));
+                                        "Glazing, south (XU201-S): Window type|Clear1|Clear2|-"}));
     EXPECT_EQ(DifferenceLines({cases[0], cases[0]}, "|"),
               std::vector<std::string>{"Nothing differs between the cases."});
 }
