@@ -26,4 +26,11 @@ mkdir -p docs/pictures
 cp "$folder/pictures/tab1.png" docs/pictures/main-window.png
 cp "$folder/pictures/start.png" docs/pictures/start.png
 "$build/help_figures" data/MWTHARM/help
+for language in 1:sv 2:en; do
+    sed -i "s/^Language=.*/Language=${language%:*}/" "$folder/config/Verandis.INI"
+    "$build/screenshots" "$folder/$language" "${language%:*}" light 100 small
+    for picture in start tab1 guide building-data site glazing constructions conditions; do
+        cp "$folder/$language/$picture.png" "data/MWTHARM/help/${language#*:}/window_$picture.png"
+    done
+done
 say "docs/pictures holds main-window.png and start.png"

@@ -98,6 +98,10 @@ say "Diagrams without a screen"
 as_user QT_QPA_PLATFORM=offscreen verandis --pictures out U1 O2 V3 I4
 (cd "$bare/home/tester/out" && du -b ./*.png)
 
+say "Report without a screen, also when one is named that does not answer"
+as_user DISPLAY=:77 verandis-cli report --pdf /home/tester/run.pdf U1 V3
+[ -s "$bare/home/tester/run.pdf" ] || fail "no report"
+
 # A window that fell would end sooner; only the time limit may end it.
 stays_open() {
     local ending=0

@@ -24,6 +24,11 @@
 #include "widgets/qt_text.h"
 
 namespace verandis {
+namespace {
+
+constexpr const char* kRunReports[] = {"M_ReportPdf", "M_ReportCsv", "M_ReportPrint"};
+
+}  // namespace
 
 void StartForm::ConnectMenus() {
     ConnectProjectMenus();
@@ -37,6 +42,8 @@ void StartForm::ConnectMenus() {
     menus_->Connect("M_MinTemp", [this] { BMinTemp(this).exec(); });
     menus_->Connect("M_PrintDiagram", [this] { PrintDiagram(this).exec(); });
     menus_->Connect("M_ReportPdf", [this] { ReportRun(this); });
+    menus_->Connect("M_ReportCsv", [this] { SaveRunTables(this); });
+    menus_->Connect("M_ReportPrint", [this] { PrintRun(this); });
     menus_->Connect("M_Print", [this] { SSTab1->PrintActive(); });
     menus_->Connect("M_HelpContents", [] { ShowHelp(kHelpContentsTopic); });
     menus_->Connect("M_Contact", [this] { ContactWindow(this).exec(); });
@@ -120,10 +127,9 @@ void StartForm::OpenDemands() {
 
 /// A dialog has stored something in the open case.
 void StartForm::TakeCaseChange(bool resultsOutdated) {
-    if (resultsOutdated) {
-        AllowPrinting(false);
-        menus_->Command("M_ReportPdf").setEnabled(false);  // it would tell inputs of today
-    }
+    if (resultsOutdated) AllowPrinting(false);
+    // They would tell the inputs of today beside the results of yesterday.
+    for (const char* command : kRunReports) menus_->Command(command).setEnabled(false);
     ShowPlans();  // a saved case may have been loaded into any slot
     header_->Refresh();
     if (editor_) editor_->Refresh();

@@ -206,7 +206,8 @@ void StartForm::StartUp() {
 
 /// What tells of a steady-state run; a dynamic one leaves nothing for it.
 void StartForm::AllowResultCommands() {
-    for (const char* command : {"M_DesignGuide", "M_MinTemp", "M_PrintDiagram", "M_ReportPdf"}) {
+    for (const char* command : {"M_DesignGuide", "M_MinTemp", "M_PrintDiagram", "M_ReportPdf",
+                                "M_ReportCsv", "M_ReportPrint"}) {
         menus_->Command(command).setEnabled(HasSteadyResults());
     }
 }

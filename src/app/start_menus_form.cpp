@@ -85,7 +85,10 @@ constexpr MenuCommand kCommands[] = {
     {"M_Calculation", "M_MinTemp", 584, Needs::Nothing},
     {"M_Calculation", "M_Print", 547, Needs::Nothing, false, "Ctrl+P"},
     {"M_Calculation", "M_PrintDiagram", 585, Needs::Nothing},
+    {"M_Calculation", "", 0, Needs::Nothing},
     {"M_Calculation", "M_ReportPdf", 586, Needs::Nothing},
+    {"M_Calculation", "M_ReportCsv", 588, Needs::Nothing},
+    {"M_Calculation", "M_ReportPrint", 587, Needs::Nothing},
 
     {kBar, "M_Detailed", 534, Needs::Nothing, true},
     {"M_Detailed", "M_ThermalLoads", 535, Needs::Project, true},

@@ -4,13 +4,14 @@
 #include "platform/prompts.h"
 #include "results/report_pages_form.h"
 #include "results/run_report.h"
+#include "text/csv.h"
 #include "widgets/output.h"
 #include "widgets/qt_text.h"
 
 namespace verandis {
 namespace {
 
-enum : int { kNothingText = 619, kSaveTitle = 631 };
+enum : int { kNothingText = 619, kSaveTitle = 631, kTablesTitle = 588 };
 
 constexpr const char* kProposedName = "report";
 
@@ -44,6 +45,30 @@ bool WriteRunReport(const std::string& pdfPath) {
     if (RefusedWithoutResults()) return false;
     return SaveOutput(
         pdfPath, PdfOf({Shown(HeadOfRunReport().title), QPageLayout::Portrait, DrawRunReport}));
+}
+
+std::string RunTablesCsv() {
+    std::string text;
+    for (const ReportTable& table : RunReportTables()) {
+        if (!text.empty()) text += "\n";
+        const std::string& title = table.title.empty() ? table.section : table.title;
+        if (!title.empty()) text += CsvText(title) + "\n";
+        text += TableCsv(table);
+    }
+    return text;
+}
+
+void SaveRunTables(QWidget* parent) {
+    if (RefusedWithoutResults()) return;
+    const QString path = CurrentOutputs().FileToSave(parent, WithoutPoints(Label(kTablesTitle)),
+                                                     kProposedName, ".csv");
+    if (!path.isEmpty()) SaveOutput(Typed(path), QByteArray::fromStdString(RunTablesCsv()));
+}
+
+void PrintRun(QWidget* parent) {
+    if (RefusedWithoutResults()) return;
+    CurrentOutputs().Print(parent,
+                           {Shown(HeadOfRunReport().title), QPageLayout::Portrait, DrawRunReport});
 }
 
 void ReportRun(QWidget* parent) {

@@ -14,7 +14,15 @@ void DrawRunReport(QPagedPaintDevice& device);
 /// results or the file cannot be written.
 bool WriteRunReport(const std::string& pdfPath);
 
-/// Asks for a file and writes the report into it.
+/// Asks for a file and writes the report into it, as PDF or its tables as comma-separated values.
 void ReportRun(QWidget* parent);
+void SaveRunTables(QWidget* parent);
+
+/// Asks for a printer and prints the report.
+void PrintRun(QWidget* parent);
+
+/// The tables of the last run as comma-separated values, each below its title, parted by an empty
+/// line; empty without results.
+std::string RunTablesCsv();
 
 }  // namespace verandis

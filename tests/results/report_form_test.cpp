@@ -179,6 +179,11 @@ TEST_F(ReportForms, ReportOfTheRunIsWrittenInBothLanguages) {
         ReportRun(nullptr);
         // Tables on a page or two, then four diagrams on two pages.
         EXPECT_EQ(PagesOf(Bytes(Path("out"))), 4) << language;
+        SaveRunTables(nullptr);
+        const std::string tables = Bytes(Path("out"));
+        EXPECT_NE(tables.find(Text(401)), std::string::npos) << "the months are among them";
+        PrintRun(nullptr);
+        EXPECT_EQ(outputs.printed.back(), 4);
     }
     EXPECT_FALSE(WriteRunReport(Path("nowhere/out.pdf")));
     runResults = {};
