@@ -8,7 +8,7 @@
 
 #include "app/program_text.h"
 #include "app/session.h"
-#include "widgets/plan_view.h"
+#include "ui/plan_view.h"
 
 namespace {
 

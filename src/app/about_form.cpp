@@ -7,9 +7,9 @@
 #include "app/contact_form.h"
 #include "case/shapes.h"
 #include "platform/prompts.h"
-#include "widgets/controls.h"
-#include "widgets/plan_view.h"
-#include "widgets/qt_text.h"
+#include "ui/controls.h"
+#include "ui/plan_view.h"
+#include "ui/qt_text.h"
 
 namespace verandis {
 namespace {

@@ -17,8 +17,8 @@
 #include "case/property_file.h"
 #include "platform/files.h"
 #include "platform/prompts.h"
-#include "widgets/controls.h"
-#include "widgets/qt_text.h"
+#include "ui/controls.h"
+#include "ui/qt_text.h"
 
 namespace verandis {
 namespace {

@@ -4,7 +4,7 @@
 #include <QImage>
 #include <string>
 
-#include "widgets/plan_view.h"
+#include "ui/plan_view.h"
 
 QT_BEGIN_NAMESPACE
 class QLabel;

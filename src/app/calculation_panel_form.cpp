@@ -4,9 +4,9 @@
 #include <QHBoxLayout>
 
 #include "app/session.h"
-#include "widgets/controls.h"
-#include "widgets/qt_text.h"
-#include "widgets/theme.h"
+#include "ui/controls.h"
+#include "ui/qt_text.h"
+#include "ui/theme.h"
 
 namespace verandis {
 namespace {

@@ -8,8 +8,8 @@
 #include <QVBoxLayout>
 
 #include "app/system_details.h"
-#include "widgets/controls.h"
-#include "widgets/qt_text.h"
+#include "ui/controls.h"
+#include "ui/qt_text.h"
 
 namespace verandis {
 namespace {

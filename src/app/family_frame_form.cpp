@@ -6,9 +6,9 @@
 #include <QStyleOption>
 #include <algorithm>
 
-#include "widgets/controls.h"
-#include "widgets/qt_text.h"
-#include "widgets/theme.h"
+#include "ui/controls.h"
+#include "ui/qt_text.h"
+#include "ui/theme.h"
 
 namespace verandis {
 namespace {

@@ -8,7 +8,7 @@
 #include <array>
 
 #include "case/shapes.h"
-#include "widgets/plan_view.h"
+#include "ui/plan_view.h"
 
 namespace verandis {
 

@@ -5,8 +5,8 @@
 
 #include "app/system_settings.h"
 #include "platform/paths.h"
-#include "widgets/controls.h"
-#include "widgets/qt_text.h"
+#include "ui/controls.h"
+#include "ui/qt_text.h"
 
 namespace verandis {
 namespace {

@@ -16,10 +16,10 @@
 
 #include "platform/files.h"
 #include "platform/paths.h"
-#include "widgets/controls.h"
-#include "widgets/help.h"
-#include "widgets/qt_text.h"
-#include "widgets/theme.h"
+#include "ui/controls.h"
+#include "ui/help.h"
+#include "ui/qt_text.h"
+#include "ui/theme.h"
 
 namespace verandis {
 namespace {

@@ -6,7 +6,7 @@
 #include "app/picture_run_form.h"
 #include "app/start_form.h"
 #include "cli/console.h"
-#include "widgets/message_boxes.h"
+#include "ui/message_boxes.h"
 
 namespace {
 

@@ -9,8 +9,8 @@
 #include "platform/files.h"
 #include "projects/slot_activation.h"
 #include "text/separators.h"
-#include "widgets/controls.h"
-#include "widgets/qt_text.h"
+#include "ui/controls.h"
+#include "ui/qt_text.h"
 
 namespace verandis {
 namespace {

@@ -20,8 +20,8 @@
 #include "results/print_diagram_form.h"
 #include "results/run_report_form.h"
 #include "results/show_cases_form.h"
-#include "widgets/help.h"
-#include "widgets/qt_text.h"
+#include "ui/help.h"
+#include "ui/qt_text.h"
 
 namespace verandis {
 namespace {

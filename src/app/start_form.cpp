@@ -19,8 +19,8 @@
 #include "app/sys_init_form.h"
 #include "calc/results.h"
 #include "projects/slot_activation.h"
-#include "widgets/controls.h"
-#include "widgets/qt_text.h"
+#include "ui/controls.h"
+#include "ui/qt_text.h"
 
 namespace verandis {
 namespace {

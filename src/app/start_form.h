@@ -19,8 +19,8 @@
 #include "dialogs/building_data_form.h"
 #include "results/diagram_tabs_form.h"
 #include "results/guide_form.h"
-#include "widgets/message_boxes.h"
-#include "widgets/plan_view.h"
+#include "ui/message_boxes.h"
+#include "ui/plan_view.h"
 
 namespace verandis {
 

@@ -5,7 +5,7 @@
 #include "app/session.h"
 #include "app/start_form.h"
 #include "calc/results.h"
-#include "widgets/qt_text.h"
+#include "ui/qt_text.h"
 
 namespace verandis {
 namespace {

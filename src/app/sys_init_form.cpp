@@ -5,8 +5,8 @@
 #include <QVBoxLayout>
 
 #include "app/folder_browser_form.h"
-#include "widgets/help.h"
-#include "widgets/qt_text.h"
+#include "ui/help.h"
+#include "ui/qt_text.h"
 
 namespace verandis {
 namespace {

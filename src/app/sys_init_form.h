@@ -7,7 +7,7 @@
 #include <QPushButton>
 
 #include "app/system_settings.h"
-#include "widgets/controls.h"
+#include "ui/controls.h"
 
 namespace verandis {
 

@@ -10,10 +10,10 @@
 #include "dialogs/building_data_dialogs_form.h"
 #include "dialogs/case_title.h"
 #include "projects/slot_activation.h"
-#include "widgets/controls.h"
-#include "widgets/help.h"
-#include "widgets/qt_text.h"
-#include "widgets/theme.h"
+#include "ui/controls.h"
+#include "ui/help.h"
+#include "ui/qt_text.h"
+#include "ui/theme.h"
 
 namespace verandis {
 namespace {

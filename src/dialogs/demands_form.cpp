@@ -4,8 +4,8 @@
 #include "dialogs/demands.h"
 #include "platform/prompts.h"
 #include "text/numbers.h"
-#include "widgets/controls.h"
-#include "widgets/qt_text.h"
+#include "ui/controls.h"
+#include "ui/qt_text.h"
 
 namespace verandis {
 namespace {

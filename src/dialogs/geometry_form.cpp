@@ -8,10 +8,10 @@
 #include "dialogs/case_title.h"
 #include "platform/prompts.h"
 #include "text/numbers.h"
-#include "widgets/controls.h"
-#include "widgets/help.h"
-#include "widgets/qt_text.h"
-#include "widgets/theme.h"
+#include "ui/controls.h"
+#include "ui/help.h"
+#include "ui/qt_text.h"
+#include "ui/theme.h"
 
 namespace verandis {
 namespace {

@@ -7,8 +7,8 @@
 #include <string>
 
 #include "dialogs/dimensions.h"
-#include "widgets/number_field.h"
-#include "widgets/plan_view.h"
+#include "ui/number_field.h"
+#include "ui/plan_view.h"
 
 namespace verandis {
 

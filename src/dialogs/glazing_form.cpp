@@ -5,9 +5,9 @@
 
 #include "app/session.h"
 #include "dialogs/case_title.h"
-#include "widgets/controls.h"
-#include "widgets/help.h"
-#include "widgets/qt_text.h"
+#include "ui/controls.h"
+#include "ui/help.h"
+#include "ui/qt_text.h"
 
 namespace verandis {
 namespace {

@@ -7,7 +7,7 @@
 #include "case/shapes.h"
 #include "dialogs/construction_panels_form.h"
 #include "dialogs/glazing.h"
-#include "widgets/plan_view.h"
+#include "ui/plan_view.h"
 
 namespace verandis {
 

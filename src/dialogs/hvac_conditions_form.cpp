@@ -7,9 +7,9 @@
 #include "case/shapes.h"
 #include "dialogs/case_title.h"
 #include "platform/prompts.h"
-#include "widgets/controls.h"
-#include "widgets/qt_text.h"
-#include "widgets/theme.h"
+#include "ui/controls.h"
+#include "ui/qt_text.h"
+#include "ui/theme.h"
 
 namespace verandis {
 namespace {

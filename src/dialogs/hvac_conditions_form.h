@@ -8,7 +8,7 @@
 #include <span>
 
 #include "dialogs/hvac_fields.h"
-#include "widgets/number_field.h"
+#include "ui/number_field.h"
 
 namespace verandis {
 

@@ -1,8 +1,8 @@
 #include "dialogs/hvac_form.h"
 
-#include "widgets/controls.h"
-#include "widgets/help.h"
-#include "widgets/qt_text.h"
+#include "ui/controls.h"
+#include "ui/help.h"
+#include "ui/qt_text.h"
 
 namespace verandis {
 namespace {

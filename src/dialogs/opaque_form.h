@@ -7,8 +7,8 @@
 #include "case/shapes.h"
 #include "dialogs/construction_panels_form.h"
 #include "dialogs/opaque.h"
-#include "widgets/number_field.h"
-#include "widgets/plan_view.h"
+#include "ui/number_field.h"
+#include "ui/plan_view.h"
 
 namespace verandis {
 

@@ -9,10 +9,10 @@
 #include "app/session.h"
 #include "dialogs/case_title.h"
 #include "text/numbers.h"
-#include "widgets/controls.h"
-#include "widgets/help.h"
-#include "widgets/qt_text.h"
-#include "widgets/theme.h"
+#include "ui/controls.h"
+#include "ui/help.h"
+#include "ui/qt_text.h"
+#include "ui/theme.h"
 
 namespace verandis {
 namespace {

@@ -8,7 +8,7 @@
 
 #include "dialogs/site.h"
 #include "dialogs/site_picture_form.h"
-#include "widgets/number_field.h"
+#include "ui/number_field.h"
 
 namespace verandis {
 

@@ -5,10 +5,10 @@
 #include <algorithm>
 #include <cmath>
 
-#include "widgets/controls.h"
-#include "widgets/polygon.h"
-#include "widgets/qt_text.h"
-#include "widgets/theme.h"
+#include "ui/controls.h"
+#include "ui/polygon.h"
+#include "ui/qt_text.h"
+#include "ui/theme.h"
 
 namespace verandis {
 namespace {

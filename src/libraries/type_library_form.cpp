@@ -5,11 +5,11 @@
 #include <QVBoxLayout>
 #include <span>
 
-#include "widgets/controls.h"
-#include "widgets/help.h"
-#include "widgets/number_field.h"
-#include "widgets/qt_text.h"
-#include "widgets/theme.h"
+#include "ui/controls.h"
+#include "ui/help.h"
+#include "ui/number_field.h"
+#include "ui/qt_text.h"
+#include "ui/theme.h"
 
 namespace verandis {
 

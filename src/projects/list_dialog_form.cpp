@@ -9,9 +9,9 @@
 #include "projects/case_list.h"
 #include "projects/project_list.h"
 #include "text/characters.h"
-#include "widgets/controls.h"
-#include "widgets/qt_text.h"
-#include "widgets/theme.h"
+#include "ui/controls.h"
+#include "ui/qt_text.h"
+#include "ui/theme.h"
 
 namespace verandis::forms {
 namespace {

@@ -10,10 +10,10 @@
 #include "app/program_text.h"
 #include "projects/saved_cases.h"
 #include "projects/saved_target_form.h"
-#include "widgets/controls.h"
-#include "widgets/help.h"
-#include "widgets/qt_text.h"
-#include "widgets/theme.h"
+#include "ui/controls.h"
+#include "ui/help.h"
+#include "ui/qt_text.h"
+#include "ui/theme.h"
 
 namespace verandis {
 namespace {

@@ -7,9 +7,9 @@
 
 #include "projects/saved_cases.h"
 #include "projects/saved_list_form.h"
-#include "widgets/controls.h"
-#include "widgets/qt_text.h"
-#include "widgets/theme.h"
+#include "ui/controls.h"
+#include "ui/qt_text.h"
+#include "ui/theme.h"
 
 namespace verandis {
 namespace {

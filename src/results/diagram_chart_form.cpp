@@ -13,8 +13,8 @@
 
 #include "app/session.h"
 #include "results/diagram_texts.h"
-#include "widgets/controls.h"
-#include "widgets/qt_text.h"
+#include "ui/controls.h"
+#include "ui/qt_text.h"
 
 namespace verandis {
 namespace {

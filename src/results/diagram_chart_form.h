@@ -9,7 +9,7 @@
 
 #include "results/diagram_look_form.h"
 #include "results/diagrams.h"
-#include "widgets/output.h"
+#include "ui/output.h"
 
 QT_BEGIN_NAMESPACE
 class QLineSeries;

@@ -10,9 +10,9 @@
 
 #include "results/diagram_chart_form.h"
 #include "results/diagram_texts.h"
-#include "widgets/controls.h"
-#include "widgets/output.h"
-#include "widgets/qt_text.h"
+#include "ui/controls.h"
+#include "ui/output.h"
+#include "ui/qt_text.h"
 
 namespace verandis {
 namespace {

@@ -15,8 +15,8 @@
 #include "results/diagram_chart_form.h"
 #include "results/diagram_texts.h"
 #include "results/enlarged_form.h"
-#include "widgets/controls.h"
-#include "widgets/qt_text.h"
+#include "ui/controls.h"
+#include "ui/qt_text.h"
 
 namespace verandis {
 namespace {

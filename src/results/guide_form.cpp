@@ -7,10 +7,10 @@
 #include "case/shapes.h"
 #include "results/guide_print_form.h"
 #include "results/msg_form.h"
-#include "widgets/controls.h"
-#include "widgets/output.h"
-#include "widgets/qt_text.h"
-#include "widgets/theme.h"
+#include "ui/controls.h"
+#include "ui/output.h"
+#include "ui/qt_text.h"
+#include "ui/theme.h"
 
 namespace verandis {
 namespace {

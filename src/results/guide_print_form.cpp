@@ -5,8 +5,8 @@
 #include <QTextTable>
 #include <QWidget>
 
-#include "widgets/qt_text.h"
-#include "widgets/theme.h"
+#include "ui/qt_text.h"
+#include "ui/theme.h"
 
 namespace verandis {
 namespace {

@@ -6,9 +6,9 @@
 #include "platform/files.h"
 #include "platform/prompts.h"
 #include "results/report_pages_form.h"
-#include "widgets/controls.h"
-#include "widgets/output.h"
-#include "widgets/qt_text.h"
+#include "ui/controls.h"
+#include "ui/output.h"
+#include "ui/qt_text.h"
 
 namespace verandis {
 namespace {

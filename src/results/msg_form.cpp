@@ -7,8 +7,8 @@
 
 #include "app/session.h"
 #include "results/design_guide.h"
-#include "widgets/controls.h"
-#include "widgets/qt_text.h"
+#include "ui/controls.h"
+#include "ui/qt_text.h"
 
 namespace verandis {
 namespace {

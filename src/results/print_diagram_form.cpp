@@ -11,8 +11,8 @@
 #include "results/diagram_chart_form.h"
 #include "results/diagram_tabs.h"
 #include "results/enlarged_form.h"
-#include "widgets/controls.h"
-#include "widgets/qt_text.h"
+#include "ui/controls.h"
+#include "ui/qt_text.h"
 
 namespace verandis {
 namespace {

@@ -6,7 +6,7 @@
 #include <numeric>
 
 #include "results/diagram_chart_form.h"
-#include "widgets/qt_text.h"
+#include "ui/qt_text.h"
 
 namespace verandis {
 namespace {

@@ -5,8 +5,8 @@
 #include "results/report_pages_form.h"
 #include "results/run_report.h"
 #include "text/csv.h"
-#include "widgets/output.h"
-#include "widgets/qt_text.h"
+#include "ui/output.h"
+#include "ui/qt_text.h"
 
 namespace verandis {
 namespace {

@@ -14,10 +14,10 @@
 #include "results/report_choice.h"
 #include "results/report_pages_form.h"
 #include "results/run_report.h"
-#include "widgets/controls.h"
-#include "widgets/help.h"
-#include "widgets/output.h"
-#include "widgets/qt_text.h"
+#include "ui/controls.h"
+#include "ui/help.h"
+#include "ui/output.h"
+#include "ui/qt_text.h"
 
 namespace verandis {
 namespace {

@@ -10,7 +10,7 @@
 #include "app/program_text.h"
 #include "app/session.h"
 #include "support/form_test.h"
-#include "widgets/help.h"
+#include "ui/help.h"
 
 namespace verandis {
 namespace {

@@ -12,7 +12,7 @@
 #include "app/program_text.h"
 #include "app/session.h"
 #include "support/form_test.h"
-#include "widgets/theme.h"
+#include "ui/theme.h"
 
 namespace verandis {
 namespace {

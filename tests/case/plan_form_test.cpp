@@ -4,8 +4,8 @@
 #include "app/program_text.h"
 #include "app/session.h"
 #include "support/form_test.h"
-#include "widgets/plan_view.h"
-#include "widgets/theme.h"
+#include "ui/plan_view.h"
+#include "ui/theme.h"
 
 namespace verandis {
 namespace {

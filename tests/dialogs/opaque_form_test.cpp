@@ -3,7 +3,7 @@
 #include "dialogs/construction_slot.h"
 #include "dialogs/glazing_form.h"
 #include "support/form_test.h"
-#include "widgets/help.h"
+#include "ui/help.h"
 
 namespace verandis {
 namespace {

@@ -10,7 +10,7 @@
 #include "results/guide_print_form.h"
 #include "results/msg_form.h"
 #include "support/form_test.h"
-#include "widgets/theme.h"
+#include "ui/theme.h"
 
 namespace verandis {
 namespace {

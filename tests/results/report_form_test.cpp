@@ -14,7 +14,7 @@
 #include "results/run_report_form.h"
 #include "results/show_cases_form.h"
 #include "support/form_test.h"
-#include "widgets/output.h"
+#include "ui/output.h"
 
 namespace verandis {
 namespace {

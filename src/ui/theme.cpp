@@ -1,4 +1,4 @@
-#include "widgets/theme.h"
+#include "ui/theme.h"
 
 #include <QPalette>
 #include <array>

@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "widgets/number_field.h"
+#include "ui/number_field.h"
 
 namespace verandis {
 

@@ -1,4 +1,4 @@
-#include "widgets/input_box.h"
+#include "ui/input_box.h"
 
 #include <QDialogButtonBox>
 #include <QPushButton>
@@ -6,8 +6,8 @@
 
 #include "platform/input_check.h"
 #include "platform/prompts.h"
-#include "widgets/controls.h"
-#include "widgets/qt_text.h"
+#include "ui/controls.h"
+#include "ui/qt_text.h"
 
 namespace verandis {
 namespace {

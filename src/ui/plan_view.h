@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "case/plan.h"
-#include "widgets/plan_painter.h"
+#include "ui/plan_painter.h"
 
 namespace verandis {
 

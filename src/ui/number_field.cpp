@@ -1,10 +1,10 @@
-#include "widgets/number_field.h"
+#include "ui/number_field.h"
 
 #include "app/session.h"
 #include "text/characters.h"
 #include "text/number_guard.h"
 #include "text/numbers.h"
-#include "widgets/qt_text.h"
+#include "ui/qt_text.h"
 
 namespace verandis {
 

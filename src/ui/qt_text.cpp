@@ -1,4 +1,4 @@
-#include "widgets/qt_text.h"
+#include "ui/qt_text.h"
 
 #include <QCoreApplication>
 #include <QLibraryInfo>

@@ -1,4 +1,4 @@
-#include "widgets/polygon.h"
+#include "ui/polygon.h"
 
 #include <utility>
 

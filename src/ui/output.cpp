@@ -1,4 +1,4 @@
-#include "widgets/output.h"
+#include "ui/output.h"
 
 #include <QBuffer>
 #include <QFileDialog>

@@ -1,11 +1,11 @@
-#include "widgets/message_boxes.h"
+#include "ui/message_boxes.h"
 
 #include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
 
-#include "widgets/input_box.h"
-#include "widgets/qt_text.h"
+#include "ui/input_box.h"
+#include "ui/qt_text.h"
 
 namespace verandis {
 namespace {

@@ -1,4 +1,4 @@
-#include "widgets/plan_painter.h"
+#include "ui/plan_painter.h"
 
 #include <QFontMetricsF>
 #include <QLineF>
@@ -9,8 +9,8 @@
 #include <cmath>
 
 #include "case/plan_text.h"
-#include "widgets/qt_text.h"
-#include "widgets/theme.h"
+#include "ui/qt_text.h"
+#include "ui/theme.h"
 
 namespace verandis {
 namespace {

@@ -1,4 +1,4 @@
-#include "widgets/help.h"
+#include "ui/help.h"
 
 #include "app/program_text.h"
 #include "platform/prompts.h"

@@ -1,4 +1,4 @@
-#include "widgets/controls.h"
+#include "ui/controls.h"
 
 #include <QAbstractButton>
 #include <QLabel>

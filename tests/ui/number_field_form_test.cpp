@@ -1,4 +1,4 @@
-#include "widgets/number_field.h"
+#include "ui/number_field.h"
 
 #include "app/session.h"
 #include "support/form_test.h"

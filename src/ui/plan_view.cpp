@@ -1,12 +1,12 @@
-#include "widgets/plan_view.h"
+#include "ui/plan_view.h"
 
 #include <QPainter>
 #include <algorithm>
 
 #include "case/plan_text.h"
-#include "widgets/controls.h"
-#include "widgets/qt_text.h"
-#include "widgets/theme.h"
+#include "ui/controls.h"
+#include "ui/qt_text.h"
+#include "ui/theme.h"
 
 namespace verandis {
 namespace {
